@@ -1,0 +1,166 @@
+// The sound library: eight clips built in at compile time, played through
+// SDL2's audio output. Every entry point is safe to call in any state; a
+// call that cannot be honoured fails quietly with the documented result.
+
+#include "PLOVQSnd.h"
+#include "Mixer.h"
+
+#include <SDL.h>
+
+#include <mutex>
+
+#define PLOV_CLIP(id)                                      \
+    extern "C" const unsigned char plovqsnd_clip##id##_start[]; \
+    extern "C" const unsigned char plovqsnd_clip##id##_end[];
+PLOV_CLIP(101) PLOV_CLIP(102) PLOV_CLIP(103) PLOV_CLIP(104)
+PLOV_CLIP(105) PLOV_CLIP(106) PLOV_CLIP(107) PLOV_CLIP(108)
+#undef PLOV_CLIP
+
+namespace {
+
+using plovqsnd::Mixer;
+
+struct Clip {
+    int32_t id;
+    const unsigned char *start;
+    const unsigned char *end;
+};
+
+constexpr Clip kClips[] = {
+    {101, plovqsnd_clip101_start, plovqsnd_clip101_end},
+    {102, plovqsnd_clip102_start, plovqsnd_clip102_end},
+    {103, plovqsnd_clip103_start, plovqsnd_clip103_end},
+    {104, plovqsnd_clip104_start, plovqsnd_clip104_end},
+    {105, plovqsnd_clip105_start, plovqsnd_clip105_end},
+    {106, plovqsnd_clip106_start, plovqsnd_clip106_end},
+    {107, plovqsnd_clip107_start, plovqsnd_clip107_end},
+    {108, plovqsnd_clip108_start, plovqsnd_clip108_end},
+};
+
+// One audio device for the whole library; the mixer is shared with SDL's
+// audio thread, so every access goes through lockDevice().
+struct Device {
+    SDL_AudioDeviceID id = 0;
+    Mixer mixer;
+    std::mutex mutex;
+};
+
+Device &device()
+{
+    static Device d;
+    return d;
+}
+
+void audioCallback(void *, Uint8 *stream, int length)
+{
+    Device &d = device();
+    std::lock_guard lock(d.mutex);
+    d.mixer.mix({reinterpret_cast<int16_t *>(stream), size_t(length) / sizeof(int16_t)});
+}
+
+std::span<const int16_t> samplesOf(int32_t soundId)
+{
+    for (const Clip &c : kClips) {
+        if (c.id == soundId)
+            return {reinterpret_cast<const int16_t *>(c.start), size_t(c.end - c.start) / sizeof(int16_t)};
+    }
+    return {};
+}
+
+} // namespace
+
+extern "C" {
+
+int32_t PLOV_InitSound(uintptr_t)
+{
+    Device &d = device();
+    if (d.id != 0)
+        return 0;
+    if (SDL_InitSubSystem(SDL_INIT_AUDIO) != 0)
+        return -1;
+    SDL_AudioSpec want{};
+    want.freq = plovqsnd::kSampleRate;
+    want.format = AUDIO_S16SYS;
+    want.channels = 1;
+    want.samples = 1024;
+    want.callback = audioCallback;
+    d.id = SDL_OpenAudioDevice(nullptr, 0, &want, nullptr, 0);
+    if (d.id == 0) {
+        SDL_QuitSubSystem(SDL_INIT_AUDIO);
+        return -2;
+    }
+    SDL_PauseAudioDevice(d.id, 0);
+    return 0;
+}
+
+int32_t PLOV_LoadSound(int32_t soundId, int32_t *hSound)
+{
+    Device &d = device();
+    if (hSound)
+        *hSound = 0;
+    if (d.id == 0 || !hSound)
+        return -1;
+    const std::span<const int16_t> samples = samplesOf(soundId);
+    if (samples.empty())
+        return -2;
+    std::lock_guard lock(d.mutex);
+    const int32_t handle = d.mixer.load(samples);
+    if (handle == 0)
+        return -3;
+    *hSound = handle;
+    return 0;
+}
+
+void PLOV_PlaySound(int32_t hSound)
+{
+    Device &d = device();
+    std::lock_guard lock(d.mutex);
+    d.mixer.play(hSound);
+}
+
+int32_t PLOV_GetSoundStatus(int32_t hSound)
+{
+    Device &d = device();
+    std::lock_guard lock(d.mutex);
+    return d.mixer.isPlaying(hSound) ? 1 : 0;
+}
+
+void PLOV_UnloadSound(int32_t *hSound)
+{
+    if (!hSound)
+        return;
+    Device &d = device();
+    {
+        std::lock_guard lock(d.mutex);
+        d.mixer.unload(*hSound);
+    }
+    *hSound = 0;
+}
+
+void PLOV_Shutdown(void)
+{
+    Device &d = device();
+    if (d.id != 0) {
+        SDL_CloseAudioDevice(d.id); // waits for the audio thread to finish
+        d.id = 0;
+        SDL_QuitSubSystem(SDL_INIT_AUDIO);
+    }
+    std::lock_guard lock(d.mutex);
+    d.mixer.clear();
+}
+
+int32_t PLOV_GetSoundLength(int32_t hSound)
+{
+    Device &d = device();
+    std::lock_guard lock(d.mutex);
+    return d.mixer.lengthMs(hSound);
+}
+
+void PLOV_SeekSound(int32_t hSound, int32_t milliseconds)
+{
+    Device &d = device();
+    std::lock_guard lock(d.mutex);
+    d.mixer.seek(hSound, milliseconds);
+}
+
+} // extern "C"

@@ -1,0 +1,12 @@
+#include "GameState.h"
+
+QString Tiles::caption(int tile, int round)
+{
+    return QLatin1Char('$') + QString::number(value(tile, round));
+}
+
+PictureIdSet pictureIdsForScreenWidth(double widthPixels)
+{
+    const qint32 base = widthPixels >= 950 ? 400 : widthPixels > 640 ? 300 : 200;
+    return {base, base + 1, base + 2, base + 3};
+}

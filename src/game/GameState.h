@@ -1,0 +1,52 @@
+// The game settings of the main module, which outlive every board, and the
+// rules of tile numbering and value that every part of the game shares.
+#pragma once
+
+#include <QString>
+
+#include <array>
+
+namespace basPLOVQuzr {
+
+// 1 and 2 are the ordinary rounds, 3 the final, 4 or more: the game is over.
+inline qint16 Round = 1;
+// Tiles of the current round that are out of play; 30 ends the round.
+inline qint16 TilesDone = 0;
+// Tile indices of the round's daily doubles; equal when it has only one.
+inline qint16 DailyDouble1 = 0;
+inline qint16 DailyDouble2 = 0;
+// Full path of the question set being played.
+inline QString QuestionFile;
+// Score of team i + 1 in entry i.
+inline std::array<qint32, 10> Scores{};
+
+// The picture set chosen at start-up for the screen's size class.
+inline qint32 PicIdScreen = 400;
+inline qint32 PicIdDailyDouble = 401;
+inline qint32 PicIdFinal = 402;
+inline qint32 PicIdBackdrop = 403;
+
+} // namespace basPLOVQuzr
+
+namespace Tiles {
+
+constexpr int Count = 30;
+constexpr int Columns = 6;
+constexpr int Rows = 5;
+
+constexpr int column(int tile) { return tile % Columns; }
+constexpr int row(int tile) { return tile / Columns; }
+
+// Value of a tile in ordinary round 1 or 2: 100..500, doubled in round 2.
+constexpr int value(int tile, int round) { return (row(tile) + 1) * round * 100; }
+
+// "$" and the value in plain digits: "$100", "$1000".
+QString caption(int tile, int round);
+
+} // namespace Tiles
+
+// The four picture ids of the size class of a screen this many pixels wide.
+struct PictureIdSet {
+    qint32 screen, dailyDouble, final, backdrop;
+};
+PictureIdSet pictureIdsForScreenWidth(double widthPixels);

@@ -1,0 +1,60 @@
+#include "Clock.h"
+
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QEventLoop>
+#include <QTimer>
+
+#include <random>
+
+namespace {
+
+class SystemClock final : public Clock {
+public:
+    qint64 now() const override { return QDateTime::currentSecsSinceEpoch(); }
+
+    void pause(int ms) override
+    {
+        // A nested loop that sleeps until the timer fires, painting and
+        // running timers meanwhile; input events wait in the window
+        // system's queue for the outer loop.
+        QEventLoop loop;
+        QTimer::singleShot(qMax(0, ms), Qt::PreciseTimer, &loop, &QEventLoop::quit);
+        loop.exec(QEventLoop::ExcludeUserInputEvents);
+    }
+
+    void waitForEvents(int ms) override
+    {
+        QCoreApplication::sendPostedEvents();
+        QEventLoop loop;
+        QTimer::singleShot(qMax(0, ms), &loop, &QEventLoop::quit);
+        loop.processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+    }
+
+    // 32 random bits over 2^32: never reaches 1, unlike some library
+    // distributions under rounding.
+    double random() override { return engine_() / 4294967296.0; }
+
+    void reseed() override
+    {
+        engine_.seed(std::mt19937::result_type(QDateTime::currentMSecsSinceEpoch()) ^ std::random_device{}());
+    }
+
+private:
+    std::mt19937 engine_{std::random_device{}()};
+};
+
+Clock *installed = nullptr;
+
+} // namespace
+
+Clock &Clock::instance()
+{
+    static SystemClock system;
+    return installed ? *installed : system;
+}
+
+void Clock::install(Clock *clock)
+{
+    installed = clock;
+}

@@ -1,0 +1,33 @@
+// Time and chance, in one seam. Every wait, every reading of the time and
+// every random draw of the game goes through the installed Clock, so that
+// tests replace it with a fake whose time only moves when the game waits.
+#pragma once
+
+#include <QtGlobal>
+
+class Clock {
+public:
+    virtual ~Clock() = default;
+
+    // Whole seconds since some fixed moment; only differences count.
+    virtual qint64 now() const = 0;
+
+    // Blocks for ms milliseconds. The windows keep painting and timers run,
+    // but user input stays queued until the pause is over.
+    virtual void pause(int ms) = 0;
+
+    // Dispatches every pending event, input included, then sleeps until
+    // the next event or for at most ms milliseconds.
+    virtual void waitForEvents(int ms) = 0;
+
+    // Uniform in [0, 1).
+    virtual double random() = 0;
+
+    // Starts a fresh random sequence (from the time, in production).
+    virtual void reseed() = 0;
+
+    // The installed clock; the system clock unless a test installed another.
+    static Clock &instance();
+    // Installs a clock (not owned); nullptr goes back to the system clock.
+    static void install(Clock *clock);
+};

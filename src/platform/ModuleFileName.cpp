@@ -1,0 +1,57 @@
+#include "ModuleFileName.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+
+namespace {
+
+QString pathOverride;
+QString folderOverride;
+
+QString executablePath()
+{
+    // /proc/self/exe names the file even before a QCoreApplication exists.
+    const QString proc = QFileInfo(QStringLiteral("/proc/self/exe")).canonicalFilePath();
+    if (!proc.isEmpty())
+        return proc;
+    return QCoreApplication::applicationFilePath();
+}
+
+} // namespace
+
+namespace ModuleFileName {
+
+QString path()
+{
+    return pathOverride.isEmpty() ? executablePath() : pathOverride;
+}
+
+QString programFolder()
+{
+    if (!folderOverride.isEmpty())
+        return withTrailingSeparator(folderOverride);
+    return withTrailingSeparator(QFileInfo(executablePath()).absolutePath());
+}
+
+QString gameExecutableName()
+{
+    return QStringLiteral(QUIZZARR_EXECUTABLE_NAME);
+}
+
+QString withTrailingSeparator(const QString &folder)
+{
+    return folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/');
+}
+
+void overridePath(const QString &p)
+{
+    pathOverride = p;
+}
+
+void overrideProgramFolder(const QString &folder)
+{
+    folderOverride = folder;
+}
+
+} // namespace ModuleFileName

@@ -1,0 +1,57 @@
+#include "basDetectDevEnv.h"
+
+#include "platform/ModuleFileName.h"
+
+#include <QString>
+
+namespace {
+
+// The answer, once it could be settled: the running module's path and the
+// path the game's own executable would have, both lower-cased and without
+// extension.
+struct RunModeRecord {
+    bool settled = false;
+    QString modulePath;
+    QString expectedPath;
+};
+
+RunModeRecord record;
+
+// Cuts the extension from the file name, never inside a folder name.
+QString withoutExtension(const QString &path)
+{
+    const qsizetype dot = path.lastIndexOf(QLatin1Char('.'));
+    const qsizetype slash = path.lastIndexOf(QLatin1Char('/'));
+    return dot > slash ? path.left(dot) : path;
+}
+
+} // namespace
+
+namespace basDetectDevEnv {
+
+bool IsRunningCompiled()
+{
+    if (record.settled)
+        return record.modulePath == record.expectedPath;
+    // The operating system's answer must fit the 1024-character buffer the
+    // game has always allowed for it; otherwise ask again next time.
+    const QString module = ModuleFileName::path();
+    if (module.size() < 1 || module.size() >= 1023)
+        return false;
+    record.modulePath = withoutExtension(module.toLower());
+    record.expectedPath = (ModuleFileName::programFolder() + ModuleFileName::gameExecutableName()).toLower();
+    record.settled = true;
+    return record.modulePath == record.expectedPath;
+}
+
+bool IsInDevEnv()
+{
+    return !IsRunningCompiled();
+}
+
+void ForgetRunMode()
+{
+    record = RunModeRecord{};
+}
+
+} // namespace basDetectDevEnv

@@ -1,0 +1,167 @@
+// The real companion libraries, as built into the program folder: the
+// pictures they hold and the clips they play (under SDL's dummy driver).
+
+#include "PLOVQSnd.h"
+
+#include "platform/PictureBox.h"
+#include "shell/PictureLibrary.h"
+
+#include <QLibrary>
+#include <QtTest>
+
+namespace {
+
+const QString programDir = QStringLiteral(QUIZZARR_PROGRAM_DIR "/");
+
+} // namespace
+
+class TestCompanions : public QObject {
+    Q_OBJECT
+
+    QLibrary sound_{programDir + QStringLiteral("PLOVQSnd.so")};
+
+    template <typename F>
+    F api(const char *name)
+    {
+        auto f = reinterpret_cast<F>(sound_.resolve(name));
+        if (!f)
+            qFatal("sound library lacks %s", name);
+        return f;
+    }
+
+private slots:
+    void initTestCase()
+    {
+        qputenv("SDL_AUDIODRIVER", "dummy");
+        QVERIFY2(sound_.load(), qPrintable(sound_.errorString()));
+        basPLOVQuzr::hPictureLib = PictureLibrary::load(programDir + QStringLiteral("PLOVQBmp.so"));
+        QVERIFY(basPLOVQuzr::hPictureLib);
+    }
+
+    void cleanupTestCase()
+    {
+        api<void (*)()>("PLOV_Shutdown")();
+        delete basPLOVQuzr::hPictureLib;
+        basPLOVQuzr::hPictureLib = nullptr;
+    }
+
+    void holdsTwelvePicturesInThreeSizeClasses_data()
+    {
+        QTest::addColumn<int>("id");
+        QTest::addColumn<QSize>("size");
+        const QList<std::pair<int, QSize>> faces{{200, {320, 240}}, {300, {480, 360}}, {400, {1024, 768}}};
+        for (const auto &[id, size] : faces)
+            QTest::addRow("face %d", id) << id << size;
+        for (int base : {200, 300, 400}) {
+            const QSize picture = base == 200 ? QSize(320, 240) : base == 300 ? QSize(640, 480) : QSize(1600, 1200);
+            QTest::addRow("daily double %d", base + 1) << base + 1 << picture;
+            QTest::addRow("final %d", base + 2) << base + 2 << picture;
+        }
+        QTest::addRow("banner 203") << 203 << QSize(1536, 96);
+        QTest::addRow("banner 303") << 303 << QSize(2048, 128);
+        QTest::addRow("banner 403") << 403 << QSize(5120, 320);
+    }
+    void holdsTwelvePicturesInThreeSizeClasses()
+    {
+        QFETCH(int, id);
+        QFETCH(QSize, size);
+        PictureBox box;
+        DrawLibraryBitmap(box, id);
+        QCOMPARE(box.size(), size);
+        // A real picture, not an empty surface: the centre is opaque or
+        // (for banners) something is drawn somewhere along the middle row.
+        const QImage &img = box.image();
+        int drawn = 0;
+        for (int x = 0; x < img.width(); x += 4)
+            drawn += qAlpha(img.pixel(x, img.height() / 2)) > 0;
+        QVERIFY(drawn > img.width() / 16);
+    }
+
+    void bannersCoverTheWidestScreenOfTheirClass()
+    {
+        PictureBox box;
+        DrawLibraryBitmap(box, 203);
+        QVERIFY(box.width() >= 640);
+        DrawLibraryBitmap(box, 303);
+        QVERIFY(box.width() >= 949);
+        DrawLibraryBitmap(box, 403);
+        QVERIFY(box.width() >= 1920);
+    }
+
+    void missingIdLeavesTargetUntouched()
+    {
+        for (int id : {0, 199, 204, 299, 404, 500, -1}) {
+            PictureBox box(QSize(12, 7));
+            QImage marked(12, 7, QImage::Format_ARGB32_Premultiplied);
+            marked.fill(Qt::green);
+            box.setImage(marked);
+            DrawLibraryBitmap(box, id);
+            QCOMPARE(box.size(), QSize(12, 7));
+            QCOMPARE(box.image(), marked);
+        }
+    }
+
+    void sameIdTwiceGivesSamePicture()
+    {
+        PictureBox first, second;
+        DrawLibraryBitmap(first, 401);
+        DrawLibraryBitmap(second, 401);
+        QCOMPARE(first.image(), second.image());
+        PictureBox other;
+        DrawLibraryBitmap(other, 402);
+        QVERIFY(other.image() != first.image());
+    }
+
+    void everyClipLoadsAndHasItsLength()
+    {
+        QCOMPARE(api<int32_t (*)(uintptr_t)>("PLOV_InitSound")(0), 0);
+        auto load = api<int32_t (*)(int32_t, int32_t *)>("PLOV_LoadSound");
+        auto length = api<int32_t (*)(int32_t)>("PLOV_GetSoundLength");
+        auto unload = api<void (*)(int32_t *)>("PLOV_UnloadSound");
+        for (int id = 101; id <= 108; ++id) {
+            int32_t handle = 0;
+            QCOMPARE(load(id, &handle), 0);
+            QVERIFY(handle != 0);
+            const int ms = length(handle);
+            QVERIFY2(ms >= 500, qPrintable(QStringLiteral("clip %1 lasts %2 ms").arg(id).arg(ms)));
+            if (id == 105)
+                QVERIFY(qAbs(ms - 30000) <= 100); // the think time
+            if (id == 102 || id == 107) // the game waits for these
+                QVERIFY2(ms >= 2000 && ms <= 5000, qPrintable(QString::number(ms)));
+            unload(&handle);
+            QCOMPARE(handle, 0);
+        }
+        int32_t handle = 7;
+        QVERIFY(load(109, &handle) < 0);
+        QCOMPARE(handle, 0);
+    }
+
+    void statusIsOneWhilePlayingAndNotAfterTheEnd()
+    {
+        QCOMPARE(api<int32_t (*)(uintptr_t)>("PLOV_InitSound")(0), 0);
+        auto status = api<int32_t (*)(int32_t)>("PLOV_GetSoundStatus");
+        int32_t handle = 0;
+        QCOMPARE(api<int32_t (*)(int32_t, int32_t *)>("PLOV_LoadSound")(105, &handle), 0);
+        QVERIFY(status(handle) != 1); // loaded, not started
+        api<void (*)(int32_t)>("PLOV_PlaySound")(handle);
+        QCOMPARE(status(handle), 1);
+        // Jump to the end instead of listening for 30 seconds.
+        api<void (*)(int32_t, int32_t)>("PLOV_SeekSound")(handle, 30000);
+        QVERIFY(status(handle) != 1);
+        api<void (*)(int32_t *)>("PLOV_UnloadSound")(&handle);
+        QVERIFY(status(handle) != 1);
+        QVERIFY(status(12345) != 1);
+    }
+
+    void nothingLoadsAfterShutdown()
+    {
+        QCOMPARE(api<int32_t (*)(uintptr_t)>("PLOV_InitSound")(0), 0);
+        api<void (*)()>("PLOV_Shutdown")();
+        int32_t handle = 0;
+        QVERIFY(api<int32_t (*)(int32_t, int32_t *)>("PLOV_LoadSound")(101, &handle) < 0);
+        api<void (*)()>("PLOV_Shutdown")(); // twice is harmless
+    }
+};
+
+QTEST_MAIN(TestCompanions)
+#include "test_companions.moc"

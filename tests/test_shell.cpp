@@ -1,0 +1,330 @@
+// Start-up, shutdown, run mode, the game settings' tile rules, and playing
+// clips through the sound library binding.
+
+#include "FakeClock.h"
+#include "FakeSoundControl.h"
+#include "ScriptedMsgBox.h"
+#include "TestFolder.h"
+
+#include "game/GameState.h"
+#include "platform/ModuleFileName.h"
+#include "platform/PictureBox.h"
+#include "shell/PictureLibrary.h"
+#include "shell/SoundLibrary.h"
+#include "shell/basDetectDevEnv.h"
+#include "shell/basPLOVQuzr.h"
+
+#include <QApplication>
+#include <QTimer>
+#include <QtTest>
+
+namespace {
+
+// Makes the game believe it runs as its own executable (or not).
+void forceRunningCompiled(bool compiled)
+{
+    ModuleFileName::overridePath(compiled ? ModuleFileName::programFolder() + ModuleFileName::gameExecutableName()
+                                          : QString());
+    basDetectDevEnv::ForgetRunMode();
+}
+
+QWidget *visibleWindowTitled(const QString &title)
+{
+    for (QWidget *w : QApplication::topLevelWidgets()) {
+        if (w->isVisible() && w->windowTitle() == title)
+            return w;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+class TestShell : public QObject {
+    Q_OBJECT
+
+private slots:
+    void cleanup()
+    {
+        ModuleFileName::overridePath(QString());
+        ModuleFileName::overrideProgramFolder(QString());
+        basDetectDevEnv::ForgetRunMode();
+        basPLOVQuzr::ShutdownLibraries();
+    }
+
+    void picksPictureSetByScreenWidth_data()
+    {
+        QTest::addColumn<double>("width");
+        QTest::addColumn<int>("screenId");
+        QTest::newRow("small screen") << 320.0 << 200;
+        QTest::newRow("640 is still small") << 640.0 << 200;
+        QTest::newRow("641 is medium") << 641.0 << 300;
+        QTest::newRow("949 is still medium") << 949.0 << 300;
+        QTest::newRow("950 is large") << 950.0 << 400;
+        QTest::newRow("4K") << 3840.0 << 400;
+    }
+    void picksPictureSetByScreenWidth()
+    {
+        QFETCH(double, width);
+        QFETCH(int, screenId);
+        const PictureIdSet ids = pictureIdsForScreenWidth(width);
+        QCOMPARE(ids.screen, screenId);
+        QCOMPARE(ids.dailyDouble, screenId + 1);
+        QCOMPARE(ids.final, screenId + 2);
+        QCOMPARE(ids.backdrop, screenId + 3);
+    }
+
+    void numbersTilesByColumnAndRow()
+    {
+        QCOMPARE(Tiles::column(14), 2);
+        QCOMPARE(Tiles::row(14), 2);
+        QCOMPARE(Tiles::column(29), 5);
+        QCOMPARE(Tiles::row(29), 4);
+        QCOMPARE(Tiles::caption(0, 1), QStringLiteral("$100"));
+        QCOMPARE(Tiles::caption(29, 1), QStringLiteral("$500"));
+        QCOMPARE(Tiles::caption(5, 2), QStringLiteral("$200"));
+        QCOMPARE(Tiles::caption(24, 2), QStringLiteral("$1000"));
+    }
+
+    void reportsBothMissingLibrariesThenOpensHome()
+    {
+        TestFolder empty;
+        ScriptedMsgBox boxes;
+        basPLOVQuzr::Round = 3;
+        boxes.whileShown = [](const ShownBox &) {
+            // The home screen comes only after both messages.
+            QVERIFY(!visibleWindowTitled(QStringLiteral("Select the question set to use")));
+        };
+
+        basPLOVQuzr::Main();
+
+        QCOMPARE(boxes.shown.size(), 2);
+        QCOMPARE(boxes.shown[0].text, QStringLiteral("Unable to load ") + empty.file(QStringLiteral("PLOVQBmp.so")) +
+                                          QStringLiteral(". The game will still work, but with no graphics."));
+        QCOMPARE(boxes.shown[1].text, QStringLiteral("Unable to load ") + empty.file(QStringLiteral("PLOVQSnd.so")) +
+                                          QStringLiteral(". The game will still work, but with no sounds."));
+        for (const ShownBox &box : boxes.shown) {
+            QCOMPARE(box.style, 0); // OK only, no icon
+            QCOMPARE(box.caption, QStringLiteral("PLOV(tm) Quizzarr!"));
+        }
+        QVERIFY(!basPLOVQuzr::hPictureLib);
+        QVERIFY(!basPLOVQuzr::hSoundLib);
+        QCOMPARE(basPLOVQuzr::Round, qint16(1));
+
+        QWidget *home = visibleWindowTitled(QStringLiteral("Select the question set to use"));
+        QVERIFY(home);
+        QPointer<QWidget> guard(home);
+        home->close();
+        QTRY_VERIFY(guard.isNull()); // deleted on close
+    }
+
+    void bindsBothLibrariesFromProgramFolderWithoutMessages()
+    {
+        ModuleFileName::overrideProgramFolder(QStringLiteral(QUIZZARR_PROGRAM_DIR));
+        ScriptedMsgBox boxes;
+
+        basPLOVQuzr::Main();
+
+        QVERIFY(boxes.shown.isEmpty());
+        QVERIFY(basPLOVQuzr::hPictureLib);
+        QVERIFY(basPLOVQuzr::hSoundLib);
+        QWidget *home = visibleWindowTitled(QStringLiteral("Select the question set to use"));
+        QVERIFY(home);
+        home->close();
+        QVERIFY(!basPLOVQuzr::hPictureLib);
+        QVERIFY(!basPLOVQuzr::hSoundLib);
+    }
+
+    void reportsOneMissingLibraryOnly()
+    {
+        TestFolder folder;
+        QVERIFY(QFile::copy(QStringLiteral(QUIZZARR_PROGRAM_DIR "/PLOVQBmp.so"), folder.file(QStringLiteral("PLOVQBmp.so"))));
+        folder.write(QStringLiteral("PLOVQSnd.so"), "not a library at all");
+        ScriptedMsgBox boxes;
+
+        basPLOVQuzr::Main();
+
+        QVERIFY(basPLOVQuzr::hPictureLib);
+        QVERIFY(!basPLOVQuzr::hSoundLib);
+        QCOMPARE(boxes.shown.size(), 1);
+        QVERIFY(boxes.shown[0].text.endsWith(QStringLiteral("but with no sounds.")));
+        visibleWindowTitled(QStringLiteral("Select the question set to use"))->close();
+    }
+
+    void libraryPathAtFileSystemRootHasOneSeparator()
+    {
+        ModuleFileName::overrideProgramFolder(QStringLiteral("/"));
+        QCOMPARE(basPLOVQuzr::PictureLibraryPath(), QStringLiteral("/PLOVQBmp.so"));
+        QCOMPARE(basPLOVQuzr::SoundLibraryPath(), QStringLiteral("/PLOVQSnd.so"));
+        ScriptedMsgBox boxes;
+        basPLOVQuzr::Main();
+        QCOMPARE(boxes.shown.size(), 2);
+        QVERIFY(boxes.shown[0].text.startsWith(QStringLiteral("Unable to load /PLOVQBmp.so. ")));
+        visibleWindowTitled(QStringLiteral("Select the question set to use"))->close();
+    }
+
+    void runModeComparesExecutableWithGameName_data()
+    {
+        QTest::addColumn<QString>("folder");
+        QTest::addColumn<QString>("module");
+        QTest::addColumn<bool>("compiled");
+        QTest::newRow("the game itself") << "/opt/quiz/" << "/opt/quiz/quizzarr" << true;
+        QTest::newRow("letter case ignored") << "/opt/quiz/" << "/OPT/Quiz/Quizzarr" << true;
+        QTest::newRow("extension cut") << "/opt/quiz/" << "/opt/quiz/quizzarr.bin" << true;
+        QTest::newRow("dot in a folder name is kept") << "/opt/my.games/" << "/opt/my.games/quizzarr" << true;
+        QTest::newRow("dot in a folder, other program") << "/opt/my.games/" << "/opt/my.games/ide" << false;
+        QTest::newRow("another program") << "/opt/quiz/" << "/usr/bin/ide" << false;
+        QTest::newRow("program at the root") << "/" << "/quizzarr" << true;
+    }
+    void runModeComparesExecutableWithGameName()
+    {
+        QFETCH(QString, folder);
+        QFETCH(QString, module);
+        QFETCH(bool, compiled);
+        ModuleFileName::overrideProgramFolder(folder);
+        ModuleFileName::overridePath(module);
+        basDetectDevEnv::ForgetRunMode();
+        QCOMPARE(basDetectDevEnv::IsRunningCompiled(), compiled);
+        QCOMPARE(basDetectDevEnv::IsInDevEnv(), !compiled);
+    }
+
+    void runModeIsSettledOnceButNotFromAnOverlongPath()
+    {
+        ModuleFileName::overrideProgramFolder(QStringLiteral("/opt/quiz/"));
+        ModuleFileName::overridePath(QStringLiteral("/opt/quiz/") + QString(1015, QLatin1Char('x')));
+        QCOMPARE(ModuleFileName::path().size(), 1025);
+        QVERIFY(!basDetectDevEnv::IsRunningCompiled());
+        // Nothing was remembered: the next call asks again.
+        ModuleFileName::overridePath(QStringLiteral("/opt/quiz/quizzarr"));
+        QVERIFY(basDetectDevEnv::IsRunningCompiled());
+        // Now the answer is settled and survives a change of path.
+        ModuleFileName::overridePath(QStringLiteral("/usr/bin/other"));
+        QVERIFY(basDetectDevEnv::IsRunningCompiled());
+    }
+
+    void testProgramsAreNotTheGame()
+    {
+        basDetectDevEnv::ForgetRunMode();
+        QVERIFY(basDetectDevEnv::IsInDevEnv());
+    }
+
+    void newClipCutsOffTheLast()
+    {
+        FakeSoundControl fake;
+        FakeClock clock;
+        forceRunningCompiled(true);
+        basPLOVQuzr::hSoundLib->InitSound(0);
+
+        PlayGameSound(101, false);
+        QVERIFY(basPLOVQuzr::hCurrentSound != 0);
+        PlayGameSound(104, false);
+
+        QCOMPARE(fake.calls(), QStringList({QStringLiteral("InitSound"), QStringLiteral("LoadSound 101"),
+                                            QStringLiteral("PlaySound 101"), QStringLiteral("UnloadSound 101"),
+                                            QStringLiteral("LoadSound 104"), QStringLiteral("PlaySound 104")}));
+        QVERIFY(clock.waits.isEmpty()); // not waiting means not waiting
+    }
+
+    void waitingForTheEndDispatchesEventsAndSleeps()
+    {
+        FakeSoundControl fake;
+        FakeClock clock;
+        clock.onAdvance = [&](int ms) { fake.advance(ms); };
+        forceRunningCompiled(true);
+        basPLOVQuzr::hSoundLib->InitSound(0);
+        fake.setClipLength(102, 3000);
+
+        bool timerRan = false;
+        QTimer::singleShot(0, [&] { timerRan = true; });
+        PlayGameSound(102, true);
+
+        QVERIFY(timerRan);
+        QCOMPARE(basPLOVQuzr::hCurrentSound, 0);
+        QVERIFY(fake.calls().endsWith(QStringLiteral("UnloadSound 102")));
+        // The clip's 3 s passed in sleeps of a few milliseconds each, not
+        // in thousands of empty polls.
+        QVERIFY(clock.elapsedMs() >= 3000);
+        QVERIFY(clock.elapsedMs() < 3100);
+        QVERIFY(!clock.waits.isEmpty());
+        for (int ms : clock.waits)
+            QVERIFY(ms >= 5 && ms <= 50);
+        QCOMPARE(fake.statusPolls(), clock.waits.size() + 1);
+    }
+
+    void clipStartedWhileWaitingIsLeftPlaying()
+    {
+        FakeSoundControl fake;
+        FakeClock clock;
+        clock.onAdvance = [&](int ms) { fake.advance(ms); };
+        forceRunningCompiled(true);
+        basPLOVQuzr::hSoundLib->InitSound(0);
+        fake.setClipLength(105, 30000);
+        fake.setClipLength(101, 5000);
+        QTimer::singleShot(0, [] { PlayGameSound(101, false); });
+
+        PlayGameSound(105, true);
+
+        QVERIFY(basPLOVQuzr::hCurrentSound != 0);
+        QVERIFY(clock.elapsedMs() < 1000);
+        QCOMPARE(fake.calls().last(), QStringLiteral("PlaySound 101"));
+    }
+
+    void silentInDevelopmentEnvironmentAndWithoutLibrary()
+    {
+        {
+            FakeSoundControl fake;
+            forceRunningCompiled(false);
+            basPLOVQuzr::hSoundLib->InitSound(0);
+            fake.reset();
+            PlayGameSound(101, true);
+            QVERIFY(fake.calls().isEmpty());
+        }
+        forceRunningCompiled(true);
+        QVERIFY(!basPLOVQuzr::hSoundLib);
+        PlayGameSound(101, true); // nothing to call, nothing to crash
+        QCOMPARE(basPLOVQuzr::hCurrentSound, 0);
+    }
+
+    void failedLoadLeavesNoClip()
+    {
+        FakeSoundControl fake;
+        FakeClock clock;
+        forceRunningCompiled(true);
+        basPLOVQuzr::hSoundLib->InitSound(0);
+        PlayGameSound(103, false);
+        fake.setLoadFails(108, true);
+        PlayGameSound(108, true);
+        QCOMPARE(basPLOVQuzr::hCurrentSound, 0);
+        QVERIFY(!fake.calls().contains(QStringLiteral("PlaySound 108")));
+        QVERIFY(clock.waits.isEmpty());
+    }
+
+    void shutdownForgetsTheCurrentClip()
+    {
+        FakeSoundControl fake;
+        forceRunningCompiled(true);
+        basPLOVQuzr::hSoundLib->InitSound(0);
+        PlayGameSound(106, false);
+        QVERIFY(basPLOVQuzr::hCurrentSound != 0);
+        basPLOVQuzr::hSoundLib->Shutdown();
+        QCOMPARE(basPLOVQuzr::hCurrentSound, 0);
+        // Without a new initialisation, loads fail and nothing is heard.
+        PlayGameSound(101, false);
+        QCOMPARE(basPLOVQuzr::hCurrentSound, 0);
+        QCOMPARE(fake.calls().last(), QStringLiteral("LoadSound 101 failed"));
+    }
+
+    void drawingWithoutPictureLibraryLeavesTargetUntouched()
+    {
+        QVERIFY(!basPLOVQuzr::hPictureLib);
+        PictureBox box(QSize(30, 20));
+        QImage before = box.image();
+        before.fill(Qt::red);
+        box.setImage(before);
+        DrawLibraryBitmap(box, 400);
+        QCOMPARE(box.size(), QSize(30, 20));
+        QCOMPARE(box.image().pixelColor(5, 5), QColor(Qt::red));
+    }
+};
+
+QTEST_MAIN(TestShell)
+#include "test_shell.moc"
