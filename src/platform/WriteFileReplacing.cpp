@@ -1,0 +1,116 @@
+#include "WriteFileReplacing.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <functional>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+FileError systemError(int number)
+{
+    return {number, QString::fromLocal8Bit(std::strerror(number))};
+}
+
+// Writes everything, retrying short writes and interruptions; 0 or errno.
+int writeAll(int fd, const char *data, qsizetype size)
+{
+    while (size > 0) {
+        const ssize_t n = ::write(fd, data, size_t(size));
+        if (n < 0 && errno == EINTR)
+            continue;
+        if (n <= 0)
+            return n < 0 ? errno : EIO;
+        data += n;
+        size -= n;
+    }
+    return 0;
+}
+
+mode_t modeForNewFile()
+{
+    const mode_t mask = ::umask(0);
+    ::umask(mask);
+    return 0666 & ~mask;
+}
+
+// Fills a temporary file beside the target through fill (which returns 0 or
+// an error number), then puts it in the target's place. On any failure
+// the temporary file goes and the target is untouched.
+FileError replaceFile(const QString &path, const std::function<int(int fd)> &fill)
+{
+    // Through a link, the file it points to is the one replaced.
+    const QFileInfo info(path);
+    const QString target = info.isSymLink() && !info.canonicalFilePath().isEmpty() ? info.canonicalFilePath() : path;
+    const QByteArray native = QFile::encodeName(target);
+
+    struct stat old {};
+    const bool exists = ::stat(native.constData(), &old) == 0;
+    if (exists && S_ISDIR(old.st_mode))
+        return systemError(EISDIR);
+    // A read-only file or folder stays as it is, for every user: the
+    // administrator, whom the system would let through, included.
+    if (exists && (::access(native.constData(), W_OK) != 0 || (old.st_mode & 0222) == 0))
+        return systemError(EACCES);
+    const QByteArray folder = QFile::encodeName(QFileInfo(target).absolutePath());
+    struct stat dir {};
+    if (::stat(folder.constData(), &dir) != 0)
+        return systemError(errno);
+    if (!S_ISDIR(dir.st_mode))
+        return systemError(ENOTDIR);
+    if ((dir.st_mode & 0222) == 0)
+        return systemError(EACCES);
+
+    QByteArray temporary = folder + "/.quizzarr-save-XXXXXX";
+    const int fd = ::mkstemp(temporary.data());
+    if (fd < 0)
+        return systemError(errno);
+    int failure = fill(fd);
+    if (failure == 0 && ::fsync(fd) != 0)
+        failure = errno;
+    ::fchmod(fd, exists ? (old.st_mode & 07777) : modeForNewFile());
+    if (::close(fd) != 0 && failure == 0)
+        failure = errno;
+    if (failure == 0 && ::rename(temporary.constData(), native.constData()) != 0)
+        failure = errno;
+    if (failure != 0) {
+        ::unlink(temporary.constData());
+        return systemError(failure);
+    }
+    return {};
+}
+
+} // namespace
+
+FileError WriteFileReplacing(const QString &path, const QByteArray &bytes)
+{
+    return replaceFile(path, [&](int fd) { return writeAll(fd, bytes.constData(), bytes.size()); });
+}
+
+FileError CopyFileReplacing(const QString &from, const QString &to)
+{
+    const QFileInfo source(from), destination(to);
+    if (!source.exists())
+        return systemError(ENOENT);
+    if (!source.isFile())
+        return systemError(source.isDir() ? EISDIR : EINVAL);
+    if (destination.exists() && source.canonicalFilePath() == destination.canonicalFilePath())
+        return {EEXIST, QStringLiteral("A file cannot be copied onto itself.")};
+    QFile in(from);
+    if (!in.open(QIODevice::ReadOnly))
+        return systemError(EACCES);
+    // Streamed in chunks: a file of any size copies without filling memory.
+    return replaceFile(to, [&](int fd) {
+        QByteArray chunk;
+        while (!(chunk = in.read(1 << 20)).isEmpty()) {
+            if (const int e = writeAll(fd, chunk.constData(), chunk.size()))
+                return e;
+        }
+        return in.error() == QFileDevice::NoError ? 0 : EIO;
+    });
+}

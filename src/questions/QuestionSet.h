@@ -1,0 +1,52 @@
+// A whole question set in memory, as the editor holds it, and the rules of
+// its file: reading one value, loading a whole set, writing it back.
+#pragma once
+
+#include "platform/WriteFileReplacing.h"
+
+#include <QString>
+
+#include <array>
+
+struct CategoryEntry {
+    QString Title;
+    std::array<QString, 5> Answer;   // the clues, top row first
+    std::array<QString, 5> Question; // the responses
+};
+
+struct QuestionSet {
+    QString Description;
+    qint16 Timer = 20;
+    qint16 RoundCount = 2; // 1 or 2 regular rounds
+    // Categories in use: [0] round 1, [1] round 2; [2] belongs to the final,
+    // which always has exactly one category, and is never read or written.
+    std::array<qint16, 3> CategoryCount{6, 6, 0};
+    // [round][category]: round 0 and 1 the regular rounds, 2 the final
+    // (category 0 only). Entries beyond the counts keep their texts.
+    std::array<std::array<CategoryEntry, 6>, 3> Categories;
+};
+
+// The editor's reader: the profile read, but an empty value reads like a
+// missing key and gives the default.
+QString ReadIniValue(const QString &Section, const QString &Key, const QString &Default, const QString &FileName);
+
+// FileName up to, not including, its last "."; without a "." the whole.
+QString FileBaseOf(const QString &FileName);
+
+// FileName with ".QZ2" appended unless it ends so, in any letter case.
+QString WithQz2Extension(const QString &FileName);
+
+// A ".QZA" file has the answer and question keys exchanged.
+bool IsLegacyFileName(const QString &FileName);
+
+// Reads a whole set from a file; whatever is missing takes the loader's
+// defaults. Never fails: any file, or none, gives a set.
+QuestionSet LoadQuestionSet(const QString &FileName);
+
+// The exact bytes of the file a set is written as.
+QByteArray QuestionSetFileBytes(const QuestionSet &set);
+
+// Writes the set to FileName (".QZ2" appended when it lacks it). On failure
+// the error's number and description come back and any old file of that
+// name is left as it was.
+FileError WriteQuestionSet(const QuestionSet &set, const QString &FileName);

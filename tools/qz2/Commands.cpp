@@ -1,0 +1,132 @@
+#include "Commands.h"
+
+#include "Json.h"
+#include "SetCheck.h"
+#include "platform/GetPrivateProfileString.h"
+#include "questions/QuestionSet.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+namespace {
+
+const char kUsage[] = "usage: qz2 get FILE SECTION KEY DEFAULT | qz2 show FILE | qz2 convert IN [OUT] | qz2 check FILE...";
+
+// Why a file cannot be read, or an empty text when it can.
+QString unreadable(const QString &path)
+{
+    const QFileInfo info(path);
+    if (!info.exists())
+        return QStringLiteral("no such file");
+    if (info.isDir())
+        return QStringLiteral("is a folder");
+    if (!info.isFile())
+        return QStringLiteral("not an ordinary file");
+    QFile f(path);
+    if (!f.open(QIODevice::ReadOnly))
+        return f.errorString();
+    return QString();
+}
+
+bool readable(const QString &path, QTextStream &err)
+{
+    const QString why = unreadable(path);
+    if (why.isEmpty())
+        return true;
+    err << "qz2: cannot read " << path << ": " << why << "\n";
+    return false;
+}
+
+QString categoryJson(const CategoryEntry &c)
+{
+    QStringList answers, questions;
+    for (int j = 0; j < 5; ++j) {
+        answers << Json::string(c.Answer[size_t(j)]);
+        questions << Json::string(c.Question[size_t(j)]);
+    }
+    return Json::object({{QStringLiteral("title"), Json::string(c.Title)},
+                         {QStringLiteral("answers"), Json::array(answers)},
+                         {QStringLiteral("questions"), Json::array(questions)}});
+}
+
+int get(const QStringList &a, QTextStream &out, QTextStream &err)
+{
+    if (!readable(a[0], err))
+        return 1;
+    out << GetPrivateProfileString(a[1], a[2], a[3], a[0]) << "\n";
+    return 0;
+}
+
+int show(const QString &path, QTextStream &out, QTextStream &err)
+{
+    if (!readable(path, err))
+        return 1;
+    const QuestionSet set = LoadQuestionSet(path);
+    QStringList counts, rounds;
+    for (int r = 0; r < set.RoundCount; ++r) {
+        counts << QString::number(set.CategoryCount[size_t(r)]);
+        QStringList categories;
+        for (int i = 0; i < set.CategoryCount[size_t(r)]; ++i)
+            categories << categoryJson(set.Categories[size_t(r)][size_t(i)]);
+        rounds << Json::array(categories);
+    }
+    const CategoryEntry &final = set.Categories[2][0];
+    out << Json::object({{QStringLiteral("description"), Json::string(set.Description)},
+                         {QStringLiteral("timer"), QString::number(set.Timer)},
+                         {QStringLiteral("roundCount"), QString::number(set.RoundCount)},
+                         {QStringLiteral("categoryCount"), Json::array(counts)},
+                         {QStringLiteral("rounds"), Json::array(rounds)},
+                         {QStringLiteral("final"), Json::object({{QStringLiteral("title"), Json::string(final.Title)},
+                                                                 {QStringLiteral("answer"), Json::string(final.Answer[0])},
+                                                                 {QStringLiteral("question"), Json::string(final.Question[0])}})}})
+        << "\n";
+    return 0;
+}
+
+int convert(const QStringList &a, QTextStream &out, QTextStream &err)
+{
+    if (!readable(a[0], err))
+        return 1;
+    const QString target = WithQz2Extension(a.size() > 1 ? a[1] : FileBaseOf(a[0]));
+    const FileError error = WriteQuestionSet(LoadQuestionSet(a[0]), target);
+    if (error) {
+        err << "qz2: cannot write " << target << ": error #" << error.number << ": " << error.description << "\n";
+        return 1;
+    }
+    out << "wrote " << target << "\n";
+    return 0;
+}
+
+int check(const QStringList &files, QTextStream &out, QTextStream &err)
+{
+    int status = 0;
+    for (const QString &path : files) {
+        if (!readable(path, err)) {
+            status = 1;
+            continue;
+        }
+        const SetReport report = CheckQuestionSet(path);
+        out << FormatReport(path, report) << "\n";
+        if (!report.playable())
+            status = 1;
+    }
+    return status;
+}
+
+} // namespace
+
+int RunQz2(const QStringList &args, QTextStream &out, QTextStream &err)
+{
+    const QString command = args.value(0);
+    const QStringList rest = args.mid(1);
+    if (command == QStringLiteral("get") && rest.size() == 4)
+        return get(rest, out, err);
+    if (command == QStringLiteral("show") && rest.size() == 1)
+        return show(rest[0], out, err);
+    if (command == QStringLiteral("convert") && (rest.size() == 1 || rest.size() == 2))
+        return convert(rest, out, err);
+    if (command == QStringLiteral("check") && !rest.isEmpty())
+        return check(rest, out, err);
+    err << kUsage << "\n";
+    return 2;
+}
