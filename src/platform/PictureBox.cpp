@@ -1,17 +1,24 @@
 #include "PictureBox.h"
 
-PictureBox::PictureBox(QSize size)
+PictureBox::PictureBox(QSize size, QColor plain) : size_(size.expandedTo(QSize(1, 1))), plain_(plain) {}
+
+QImage PictureBox::image() const
 {
-    resize(size);
+    if (!image_.isNull())
+        return image_;
+    QImage plain(size_, QImage::Format_ARGB32_Premultiplied);
+    plain.fill(plain_);
+    return plain;
 }
 
 void PictureBox::setImage(const QImage &image)
 {
     image_ = image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    size_ = image_.size();
 }
 
 void PictureBox::resize(QSize size)
 {
-    image_ = QImage(size.expandedTo(QSize(1, 1)), QImage::Format_ARGB32_Premultiplied);
-    image_.fill(Qt::transparent);
+    size_ = size.expandedTo(QSize(1, 1));
+    image_ = QImage();
 }

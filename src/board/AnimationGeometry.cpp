@@ -1,0 +1,46 @@
+#include "AnimationGeometry.h"
+
+#include <cmath>
+#include <numbers>
+
+namespace {
+
+qreal sinHalfDegrees(int a)
+{
+    return std::sin(a / 2.0 * std::numbers::pi / 180.0);
+}
+
+} // namespace
+
+std::array<QRectF, 6> ZoomRects(QRectF start, QSizeF board)
+{
+    std::array<QRectF, 6> rects;
+    const qreal dx = -start.x() / 5, dy = -start.y() / 5;
+    const qreal dw = (board.width() - start.width()) / 5, dh = (board.height() - start.height()) / 5;
+    rects[0] = start;
+    for (int k = 1; k <= 5; ++k) {
+        const QRectF &p = rects[size_t(k - 1)];
+        rects[size_t(k)] = QRectF(p.x() + dx, p.y() + dy, p.width() + dw, p.height() + dh);
+    }
+    return rects;
+}
+
+std::array<QRectF, 9> FoldRects(QSizeF board, qreal width)
+{
+    std::array<QRectF, 9> rects;
+    for (int k = 0; k < 9; ++k) {
+        const qreal h = board.height() * sinHalfDegrees(160 - 20 * k);
+        rects[size_t(k)] = QRectF(0, (board.height() - h) / 2, width, h);
+    }
+    return rects;
+}
+
+std::array<QRectF, 9> UnfoldRects(QSizeF board)
+{
+    std::array<QRectF, 9> rects;
+    for (int k = 0; k < 9; ++k) {
+        const qreal w = board.width() * sinHalfDegrees(20 + 20 * k);
+        rects[size_t(k)] = QRectF((board.width() - w) / 2, 0, w, board.height());
+    }
+    return rects;
+}

@@ -1,0 +1,107 @@
+// The game board: six category columns of five value tiles under the title
+// banner, the teams' scores down the left, and the full-screen answer
+// screen that grows out of a pressed tile. One board lives for one game.
+//
+// The form is split across files by concern: load and unload
+// (frmMain_Load.cpp), layout and text fitting (frmMain_Layout.cpp), the
+// answer screen's animation (frmMain_Animation.cpp).
+#pragma once
+
+#include "board/BoardLayout.h"
+#include "platform/PictureBox.h"
+
+#include <QImage>
+#include <QList>
+#include <QPixmap>
+#include <QWidget>
+
+#include <array>
+
+class CaptionControl;
+class ShadowLabel;
+class QTimer;
+
+class frmMain : public QWidget {
+    Q_OBJECT
+public:
+    // Form_Load: builds the controls, starts the sound library (offering to
+    // retry), reads the answer time and gives tiles their face.
+    explicit frmMain(QWidget *parent = nullptr);
+    ~frmMain() override;
+
+    // Number of scoring teams, 0 ("No scoring") to 10; set after loading.
+    qint16 Teams = 0;
+
+    // Controls, under the names the game gives them.
+    CaptionControl *vseCategories = nullptr;
+    std::array<CaptionControl *, 6> vseCategory{};
+    std::array<CaptionControl *, 5> vseQuestions{};
+    std::array<CaptionControl *, 30> vseQuestion{};
+    CaptionControl *vseTV = nullptr;
+    ShadowLabel *lblCategory = nullptr;
+    ShadowLabel *lblValue = nullptr;
+    // Team names and scores on the board and, hidden until a zoom ends, on
+    // the answer screen. Element 0 always exists.
+    QList<ShadowLabel *> lblTeam, lblScore, lblTeam2, lblScore2;
+    QTimer *tmrQuestion = nullptr;
+    PictureBox picText;
+
+    // Creates or destroys element i (i >= 1) of the four team label arrays;
+    // a new element starts as a copy of element 0.
+    void LoadTeamLabel(int i);
+    void UnloadTeamLabel(int i);
+    // Shows element 0 when there are teams, and makes exactly one element per
+    // team (the board's own labels shown, the answer screen's hidden).
+    void PrepareTeamLabels(int teams);
+
+    // Lays the board out for its current size: banner, team labels, the
+    // category row and the five tile rows, inside the centred 4:3 area.
+    void Form_Resize();
+    // Fit a header's or a tile's caption into 80% of its box.
+    void vseCategory_RealignFrame(int Index);
+    void vseQuestion_RealignFrame(int Index);
+
+    // Grows the answer screen out of a tile or header to cover the board,
+    // showing picture PictureID.
+    void ZoomTV(QWidget *source, qint32 PictureID);
+    // Folds the answer screen away showing PictureID1 and unfolds it
+    // showing PictureID2.
+    void RotateTV(qint32 PictureID1, qint32 PictureID2);
+
+    // The area the board lays out in (the centred 4:3 rectangle), in the
+    // window's coordinates, and its size W x H.
+    QRect boardArea() const;
+    QSizeF boardSize() const;
+    const BoardGeometry &geometry() const { return geometry_; }
+
+    // Form_Unload: shuts the sound down, tells the home screen, and lets
+    // the window go.
+    void Unload();
+
+signals:
+    void unloaded();
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    void createControls();
+    void createTiles();
+    void createAnswerScreen();
+    void startSound();
+    void setTileFaces();
+    void layOutTeamLabels(qreal referencePoints);
+    void scaleBanner();
+    // Shows one step of an animation as its own frame.
+    void showFrame(int pauseMs);
+
+    QWidget *area_ = nullptr;
+    BoardGeometry geometry_;
+    QImage banner_;
+    QPixmap scaledBanner_;
+    // Backdrop and banner as painted, kept for the window's size.
+    QPixmap background_;
+    bool unloaded_ = false;
+};

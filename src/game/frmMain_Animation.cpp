@@ -1,0 +1,97 @@
+// The answer screen's animation: the zoom out of a tile or header, and the
+// flip from one picture to another. Each step reaches the screen as its own
+// frame, however fast the machine.
+
+#include "frmMain.h"
+
+#include "board/AnimationGeometry.h"
+#include "board/ShadowLabel.h"
+#include "platform/CaptionControl.h"
+#include "platform/Clock.h"
+#include "shell/PictureLibrary.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr int kZoomPauseMs = 25;
+// About one display frame, so that a flip is seen on a fast machine too.
+constexpr int kFlipFrameMs = 16;
+
+QRect pixels(const QRectF &r)
+{
+    return QRect(qRound(r.x()), qRound(r.y()), qRound(r.right()) - qRound(r.x()),
+                 qRound(r.bottom()) - qRound(r.y()));
+}
+
+} // namespace
+
+void frmMain::showFrame(int pauseMs)
+{
+    vseTV->repaint();
+    Clock::instance().pause(pauseMs);
+}
+
+void frmMain::ZoomTV(QWidget *source, qint32 PictureID)
+{
+    vseTV->hide();
+    lblCategory->hide();
+    lblValue->hide();
+    for (int i = 0; i < lblTeam2.size(); ++i) {
+        lblTeam2[i]->hide();
+        lblScore2[i]->hide();
+    }
+
+    auto *caption = static_cast<CaptionControl *>(source);
+    const bool isTile = std::find(vseQuestion.begin(), vseQuestion.end(), source) != vseQuestion.end();
+    if (!isTile) {
+        vseTV->setTag(QStringLiteral("NO"));
+        vseTV->setCaption(caption->caption());
+    }
+    // Our containers draw no frame: the screen starts exactly on the source.
+    const QRectF start(source->mapTo(area_, QPoint(0, 0)), QSizeF(source->size()));
+    const std::array<QRectF, 6> steps = ZoomRects(start, boardSize());
+
+    vseTV->setFastScaling(true);
+    vseTV->setGeometry(pixels(steps[0]));
+    DrawLibraryBitmap(picText, PictureID);
+    vseTV->setPicture(picText.image());
+    vseTV->setFontSize(caption->fontSize());
+    vseTV->show();
+    vseTV->raise();
+    vseTV->repaint();
+    for (int k = 1; k <= 5; ++k) {
+        const QRectF &now = steps[size_t(k)], &before = steps[size_t(k - 1)];
+        if (!vseTV->caption().isEmpty() && before.width() > 0)
+            vseTV->setFontSize(vseTV->fontSize() * now.width() / before.width());
+        vseTV->setGeometry(pixels(now));
+        showFrame(kZoomPauseMs);
+    }
+    vseTV->setFastScaling(false);
+    if (Teams > 0) {
+        for (int i = 0; i < lblTeam2.size(); ++i) {
+            lblTeam2[i]->show();
+            lblScore2[i]->show();
+        }
+    }
+}
+
+void frmMain::RotateTV(qint32 PictureID1, qint32 PictureID2)
+{
+    const QSizeF board = boardSize();
+    vseTV->setFastScaling(true);
+    DrawLibraryBitmap(picText, PictureID1);
+    vseTV->setPicture(picText.image());
+    for (const QRectF &r : FoldRects(board, vseTV->width())) {
+        if (r.height() > 0)
+            vseTV->setGeometry(pixels(r));
+        showFrame(kFlipFrameMs);
+    }
+    DrawLibraryBitmap(picText, PictureID2);
+    vseTV->setPicture(picText.image());
+    for (const QRectF &r : UnfoldRects(board)) {
+        vseTV->setGeometry(pixels(r));
+        showFrame(kFlipFrameMs);
+    }
+    vseTV->setFastScaling(false);
+}

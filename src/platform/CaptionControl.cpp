@@ -1,0 +1,209 @@
+#include "CaptionControl.h"
+
+#include <QFontMetricsF>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPaintEvent>
+#include <QPixmapCache>
+
+CaptionControl::CaptionControl(QWidget *parent) : QWidget(parent)
+{
+    setAttribute(Qt::WA_OpaquePaintEvent, false);
+}
+
+void CaptionControl::invalidate()
+{
+    composedValid_ = false;
+    update();
+}
+
+void CaptionControl::setCaption(const QString &caption)
+{
+    if (caption == caption_)
+        return;
+    caption_ = caption;
+    invalidate();
+}
+
+void CaptionControl::setPicture(const QImage &picture)
+{
+    picture_ = picture;
+    invalidate();
+}
+
+void CaptionControl::setTextColor(const QColor &color)
+{
+    textColor_ = color;
+    invalidate();
+}
+
+void CaptionControl::setFontSize(qreal points)
+{
+    QFont f = font();
+    f.setPointSizeF(qMax<qreal>(1.0, points));
+    setFont(f);
+    invalidate();
+}
+
+void CaptionControl::setFastScaling(bool fast)
+{
+    if (fast == fastScaling_)
+        return;
+    fastScaling_ = fast;
+    invalidate();
+}
+
+void CaptionControl::setDesignSize(QSizeF size)
+{
+    designSize_ = size;
+    placeChildren();
+}
+
+void CaptionControl::addChild(QWidget *child, QRectF designRect)
+{
+    child->setParent(this);
+    children_.push_back({child, designRect});
+    placeChildren();
+}
+
+void CaptionControl::setChildDesignRect(QWidget *child, QRectF designRect)
+{
+    for (Child &c : children_) {
+        if (c.widget == child)
+            c.design = designRect;
+    }
+}
+
+void CaptionControl::refresh()
+{
+    placeChildren();
+    update();
+}
+
+void CaptionControl::placeChildren()
+{
+    if (designSize_.isEmpty())
+        return;
+    const qreal sx = width() / designSize_.width();
+    const qreal sy = height() / designSize_.height();
+    for (const Child &c : children_) {
+        // Edges are rounded, not sizes, so neighbours meet without gaps.
+        const QRectF r(c.design.x() * sx, c.design.y() * sy, c.design.width() * sx, c.design.height() * sy);
+        c.widget->setGeometry(QRect(qRound(r.x()), qRound(r.y()), qRound(r.right()) - qRound(r.x()),
+                                    qRound(r.bottom()) - qRound(r.y())));
+    }
+}
+
+qreal CaptionControl::lineHeight(const QFont &font)
+{
+    return QFontMetricsF(font).height();
+}
+
+qreal CaptionControl::textWidth(const QFont &font, const QString &wrapped)
+{
+    const QFontMetricsF fm(font);
+    qreal widest = 0;
+    for (const QString &line : wrapped.split(QLatin1Char('\n')))
+        widest = qMax(widest, fm.horizontalAdvance(line));
+    return widest;
+}
+
+qreal CaptionControl::textHeight(const QFont &font, const QString &wrapped)
+{
+    return lineHeight(font) * (wrapped.count(QLatin1Char('\n')) + 1);
+}
+
+QPixmap CaptionControl::scaledPicture()
+{
+    // Every tile of a board has the same size and picture: one scaling
+    // serves them all.
+    const QSize target = size() * devicePixelRatioF();
+    const QString key = QStringLiteral("caption-%1-%2x%3")
+                            .arg(picture_.cacheKey())
+                            .arg(target.width())
+                            .arg(target.height());
+    QPixmap scaled;
+    if (!QPixmapCache::find(key, &scaled)) {
+        scaled = QPixmap::fromImage(picture_.scaled(target, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+        QPixmapCache::insert(key, scaled);
+    }
+    return scaled;
+}
+
+void CaptionControl::compose()
+{
+    const qreal dpr = devicePixelRatioF();
+    composed_ = QPixmap(size() * dpr);
+    composed_.setDevicePixelRatio(dpr);
+    composed_.fill(Qt::transparent);
+    composedValid_ = true;
+    QPainter p(&composed_);
+    if (!picture_.isNull()) {
+        QPixmap face = scaledPicture();
+        face.setDevicePixelRatio(dpr);
+        p.drawPixmap(0, 0, face);
+    }
+    drawCaption(p);
+}
+
+void CaptionControl::drawCaption(QPainter &p) const
+{
+    if (caption_.isEmpty())
+        return;
+    p.setRenderHint(QPainter::TextAntialiasing);
+    p.setFont(font());
+    const QFontMetricsF fm(font());
+    const QStringList lines = caption_.split(QLatin1Char('\n'));
+    const qreal line = fm.height();
+    const qreal shadow = qMax<qreal>(1.0, line / 16.0);
+    qreal y = (height() - line * lines.size()) / 2.0 + fm.ascent();
+    for (const QString &text : lines) {
+        const qreal x = (width() - fm.horizontalAdvance(text)) / 2.0;
+        // A dark shadow keeps light text readable on any projector.
+        p.setPen(QColor(0, 0, 0, 200));
+        p.drawText(QPointF(x + shadow, y + shadow), text);
+        p.setPen(textColor_);
+        p.drawText(QPointF(x, y), text);
+        y += line;
+    }
+}
+
+void CaptionControl::paintEvent(QPaintEvent *event)
+{
+    if (width() <= 0 || height() <= 0 || (picture_.isNull() && caption_.isEmpty()))
+        return;
+    QPainter p(this);
+    if (fastScaling_) {
+        // Each frame of an animation has a new size: stretching straight
+        // onto the screen costs one pass instead of three.
+        if (!picture_.isNull())
+            p.drawImage(rect(), picture_);
+        drawCaption(p);
+        return;
+    }
+    if (!composedValid_ || composed_.size() != size() * devicePixelRatioF())
+        compose();
+    const qreal dpr = devicePixelRatioF();
+    const QRect r = event->rect();
+    p.drawPixmap(r, composed_, QRectF(QPointF(r.topLeft()) * dpr, QSizeF(r.size()) * dpr));
+}
+
+void CaptionControl::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        invalidate();
+}
+
+void CaptionControl::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    placeChildren();
+    emit resized();
+}
+
+void CaptionControl::mousePressEvent(QMouseEvent *event)
+{
+    emit pressed(event->button(), event->modifiers());
+    event->accept();
+}

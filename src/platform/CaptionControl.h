@@ -1,0 +1,93 @@
+// The resizing caption and container control that the board, the home
+// screen, the editor and the help screen are built from: a caption (lines
+// split at "\n", each centred) in its own font, a hidden tag text, a
+// background picture drawn to fill it, a signal on every change of size, a
+// mouse press with its button and SHIFT/CTRL/ALT, and, as a container,
+// children placed in proportion to their design rectangles.
+#pragma once
+
+#include <QColor>
+#include <QImage>
+#include <QPixmap>
+#include <QRectF>
+#include <QWidget>
+
+class QPainter;
+
+#include <vector>
+
+class CaptionControl : public QWidget {
+    Q_OBJECT
+public:
+    explicit CaptionControl(QWidget *parent = nullptr);
+
+    QString caption() const { return caption_; }
+    void setCaption(const QString &caption);
+
+    QString tag() const { return tag_; }
+    void setTag(const QString &tag) { tag_ = tag; }
+
+    // The picture is stretched over the whole control; a null image draws
+    // nothing, so whatever lies behind shows through.
+    QImage picture() const { return picture_; }
+    void setPicture(const QImage &picture);
+
+    void setTextColor(const QColor &color);
+    QColor textColor() const { return textColor_; }
+
+    // Point size of the caption's font, in the font's own fractions.
+    qreal fontSize() const { return font().pointSizeF(); }
+    void setFontSize(qreal points);
+
+    // Children keep their place in proportion: a child at design rectangle
+    // d in a container of design size s covers d scaled by size()/s.
+    void setDesignSize(QSizeF size);
+    void addChild(QWidget *child, QRectF designRect);
+    void setChildDesignRect(QWidget *child, QRectF designRect);
+    // Lays the children out again (after design rectangles changed).
+    void refresh();
+
+    // While true (during an animation) the picture is stretched without
+    // smoothing, which is many times faster on a big screen; turning it
+    // off draws the smooth picture again.
+    void setFastScaling(bool fast);
+
+    // The caption's lines laid out as drawn: the height of one line, and
+    // the widest line, in this font. Text fitting measures the same way.
+    static qreal lineHeight(const QFont &font);
+    static qreal textWidth(const QFont &font, const QString &wrapped);
+    static qreal textHeight(const QFont &font, const QString &wrapped);
+
+signals:
+    void resized();
+    void pressed(Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void changeEvent(QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+
+private:
+    void placeChildren();
+    QPixmap scaledPicture();
+    // What the control shows, drawn once and kept until something changes:
+    // a board repaints dozens of large captions at every animation frame.
+    void compose();
+    void drawCaption(QPainter &painter) const;
+    void invalidate();
+
+    QString caption_;
+    QString tag_;
+    QImage picture_;
+    QColor textColor_ = QColor(255, 255, 255);
+    bool fastScaling_ = false;
+    QPixmap composed_;
+    bool composedValid_ = false;
+    QSizeF designSize_;
+    struct Child {
+        QWidget *widget;
+        QRectF design;
+    };
+    std::vector<Child> children_;
+};

@@ -1,0 +1,91 @@
+// Benchmark (not a test): a full board re-layout with its 36 captions
+// fitted, at three screen sizes, and fitting a 1,999-character clue into the
+// answer screen at 3840x2160.
+
+#include "board/TextFitting.h"
+#include "game/GameState.h"
+#include "game/frmMain.h"
+#include "platform/CaptionControl.h"
+#include "shell/PictureLibrary.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QTextStream>
+
+namespace {
+
+const char *kTitles[] = {"Animal Kingdom", "Around the House", "Colors", "Numbers Game", "Music Notes",
+                         "A Rather Long Category Title Indeed"};
+
+void useClass(int width)
+{
+    const PictureIdSet ids = pictureIdsForScreenWidth(width);
+    basPLOVQuzr::PicIdScreen = ids.screen;
+    basPLOVQuzr::PicIdBackdrop = ids.backdrop;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QApplication app(argc, argv);
+    QFont::insertSubstitution(QStringLiteral("Arial"), QStringLiteral("Liberation Sans"));
+    QTextStream out(stdout);
+    basPLOVQuzr::hPictureLib = PictureLibrary::load(QStringLiteral(QUIZZARR_PROGRAM_DIR "/PLOVQBmp.so"));
+    const QList<QSize> sizes{{1024, 768}, {1920, 1080}, {3840, 2160}};
+    for (const QSize &size : sizes) {
+        useClass(size.width());
+        frmMain board;
+        for (int c = 0; c < 6; ++c)
+            board.vseCategory[size_t(c)]->setCaption(QString::fromLatin1(kTitles[c]));
+        board.resize(size);
+        board.show();
+        constexpr int kRounds = 20;
+        QElapsedTimer t;
+        qint64 total = 0;
+        for (int k = 0; k < kRounds; ++k) {
+            // Alternate sizes so that every control really changes size and
+            // fits its caption again.
+            board.resize(size.width() - (k % 2), size.height() - (k % 2));
+            t.start();
+            board.Form_Resize();
+            for (int c = 0; c < 6; ++c)
+                board.vseCategory_RealignFrame(c);
+            for (int i = 0; i < 30; ++i)
+                board.vseQuestion_RealignFrame(i);
+            total += t.nsecsElapsed();
+        }
+        board.grab(); // the first paint scales the pictures once
+        t.start();
+        board.grab();
+        const qint64 paint = t.elapsed();
+        out << "re-layout with 36 captions at " << size.width() << "x" << size.height() << ": "
+            << QString::number(total / kRounds / 1e6, 'f', 2) << " ms (a whole paint: " << paint << " ms)\n";
+
+        t.start();
+        board.ZoomTV(board.vseQuestion[14], basPLOVQuzr::PicIdScreen);
+        const qint64 zoom = t.elapsed();
+        t.start();
+        board.RotateTV(basPLOVQuzr::PicIdScreen, basPLOVQuzr::PicIdScreen);
+        out << "  zoom: " << zoom << " ms (125 of them pauses); flip: " << t.elapsed()
+            << " ms (18 frames of at least 16 ms)\n";
+        board.vseTV->hide();
+
+        if (size.width() == 3840) {
+            QString clue;
+            while (clue.size() < 1999)
+                clue += QStringLiteral("the quick brown fox jumps over the lazy dog ");
+            clue.truncate(1999);
+            const QSizeF tv = board.boardSize();
+            t.start();
+            CramText(clue, *board.vseTV, board.vseQuestion[0]->fontSize(), 0.8 * tv.width(), 0.75 * tv.height());
+            out << "a 1,999-character clue into the answer screen at 3840x2160: " << t.elapsed() << " ms ("
+                << board.vseTV->fontSize() << " pt)\n";
+            const QString short200 = clue.left(200);
+            t.start();
+            CramText(short200, *board.vseTV, board.vseQuestion[0]->fontSize(), 0.8 * tv.width(), 0.75 * tv.height());
+            out << "a 200-character clue: " << t.elapsed() << " ms (" << board.vseTV->fontSize() << " pt)\n";
+        }
+    }
+    return 0;
+}

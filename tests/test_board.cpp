@@ -1,0 +1,456 @@
+// The board: its layout on real screen shapes, text fitting, the answer
+// screen's zoom and flip, and the board's load and unload.
+
+#include "FakeClock.h"
+#include "FakeSoundControl.h"
+#include "ScriptedMsgBox.h"
+
+#include "board/AnimationGeometry.h"
+#include "board/Backdrop.h"
+#include "board/BoardLayout.h"
+#include "board/ShadowLabel.h"
+#include "board/TextFitting.h"
+#include "game/GameState.h"
+#include "game/frmMain.h"
+#include "platform/CaptionControl.h"
+#include "shell/PictureLibrary.h"
+#include "shell/basPLOVQuzr.h"
+
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+QFont bold(qreal points)
+{
+    QFont f(QStringLiteral("Arial"));
+    f.setBold(true);
+    f.setPointSizeF(points);
+    return f;
+}
+
+// The largest whole size from `from` up at which the text fits, found by
+// trying every size: the oracle for the fitting's climb.
+int largestFittingSize(const QString &text, qreal from, qreal w, qreal h)
+{
+    int best = -1;
+    for (int s = int(from); s < 400; ++s) {
+        if (TextFits(bold(s), WrapText(text, bold(s), qRound(w)), w, h))
+            best = s;
+    }
+    return best;
+}
+
+struct Frame {
+    QRect geometry;
+    qreal fontSize;
+    bool visible;
+};
+
+} // namespace
+
+class TestBoard : public QObject {
+    Q_OBJECT
+
+    QTemporaryDir dir_;
+
+    frmMain *newBoard(QSize size = QSize(1024, 768))
+    {
+        auto *board = new frmMain;
+        board->resize(size);
+        board->Form_Resize();
+        return board;
+    }
+
+    QString writeSet(const QByteArray &round1)
+    {
+        const QString path = dir_.filePath(QStringLiteral("set.QZ2"));
+        QFile f(path);
+        f.open(QIODevice::WriteOnly | QIODevice::Truncate);
+        f.write(round1);
+        return path;
+    }
+
+private slots:
+    void initTestCase()
+    {
+        QFont::insertSubstitution(QStringLiteral("Arial"), QStringLiteral("Liberation Sans"));
+        basPLOVQuzr::hPictureLib = PictureLibrary::load(QStringLiteral(QUIZZARR_PROGRAM_DIR "/PLOVQBmp.so"));
+        QVERIFY(basPLOVQuzr::hPictureLib);
+    }
+
+    void cleanupTestCase() { basPLOVQuzr::ShutdownLibraries(); }
+
+    void init()
+    {
+        basPLOVQuzr::Scores.fill(0);
+        basPLOVQuzr::QuestionFile.clear();
+        basPLOVQuzr::PicIdScreen = 400;
+        basPLOVQuzr::PicIdDailyDouble = 401;
+        basPLOVQuzr::PicIdFinal = 402;
+        basPLOVQuzr::PicIdBackdrop = 403;
+    }
+
+    void lays800PixelBoardOut()
+    {
+        const BoardGeometry g = LayOutBoard(800, 31);
+        QVERIFY(qAbs(g.y0 - 94.62) < 0.01);
+        QCOMPARE(g.B, 650.0);
+        QCOMPARE(g.r, 81.25);
+        QVERIFY(qAbs(g.categories.top() - 99.62) < 0.01);
+        QVERIFY(qAbs(g.rows[4].bottom() - 597.12) < 0.01);
+        QCOMPARE(g.left, 80.0);
+        QCOMPARE(g.bannerHeight, g.y0 - 31);
+
+        // The same on a real board 800 pixels wide, within a pixel.
+        std::unique_ptr<frmMain> board(newBoard(QSize(800, 600)));
+        QCOMPARE(board->boardSize(), QSizeF(800, 600));
+        QVERIFY(qAbs(board->vseCategories->y() - 99.62) <= 1);
+        QVERIFY(qAbs(board->vseCategories->width() - 650) <= 1);
+        QVERIFY(qAbs(board->vseQuestions[4]->geometry().bottom() + 1 - 597.12) <= 1);
+        QVERIFY(qAbs(board->vseQuestion[0]->width() - 650 / 6.0) <= 1);
+        QVERIFY(qAbs(board->vseQuestion[0]->height() - 81.25) <= 1);
+    }
+
+    void wholeBoardIsVisibleOnCommonScreens_data()
+    {
+        QTest::addColumn<QSize>("screen");
+        QTest::newRow("4:3") << QSize(1024, 768);
+        QTest::newRow("16:10") << QSize(1280, 800);
+        QTest::newRow("16:9") << QSize(1920, 1080);
+        QTest::newRow("4K") << QSize(3840, 2160);
+        QTest::newRow("5:4") << QSize(1280, 1024);
+    }
+    void wholeBoardIsVisibleOnCommonScreens()
+    {
+        QFETCH(QSize, screen);
+        std::unique_ptr<frmMain> board(newBoard(screen));
+        const QRect area = board->boardArea();
+        QVERIFY(QRect(QPoint(0, 0), screen).contains(area));
+        // Centred: equal margins left and right, top and bottom.
+        QVERIFY(qAbs(area.left() - (screen.width() - area.right() - 1)) <= 1);
+        QVERIFY(qAbs(area.top() - (screen.height() - area.bottom() - 1)) <= 1);
+        QVERIFY(qAbs(area.width() * 3 - area.height() * 4) <= 4);
+        for (QWidget *row : board->vseQuestions) {
+            const QRect onScreen(row->mapTo(board.get(), QPoint(0, 0)), row->size());
+            QVERIFY2(QRect(QPoint(0, 0), screen).contains(onScreen), qPrintable(QStringLiteral("row cut off")));
+        }
+        // 4:3 cells: each tile is a third wider than high.
+        QVERIFY(qAbs(board->vseQuestion[7]->width() * 3 - board->vseQuestion[7]->height() * 4) <= 8);
+    }
+
+    void teamLabelsFollowTheTeamCount_data()
+    {
+        QTest::addColumn<int>("teams");
+        QTest::newRow("no scoring") << 0;
+        QTest::newRow("one team") << 1;
+        QTest::newRow("ten teams") << 10;
+    }
+    void teamLabelsFollowTheTeamCount()
+    {
+        QFETCH(int, teams);
+        std::unique_ptr<frmMain> board(newBoard());
+        board->show();
+        board->Teams = qint16(teams);
+        board->PrepareTeamLabels(teams);
+        basPLOVQuzr::Scores[9] = 1500;
+        board->Form_Resize();
+        QCOMPARE(board->lblTeam.size(), qMax(1, teams));
+        QCOMPARE(board->lblScore2.size(), qMax(1, teams));
+        QCOMPARE(board->lblTeam[0]->isVisible(), teams > 0);
+        const BoardGeometry &g = board->geometry();
+        for (int i = 0; i < board->lblTeam.size(); ++i) {
+            QCOMPARE(board->lblTeam[i]->caption(), QStringLiteral("Team %1:").arg(i + 1));
+            QVERIFY(qAbs(board->lblTeam[i]->y() - (g.y0 + i * (2 * g.labelHeight + 10))) <= 1);
+            QCOMPARE(board->lblTeam[i]->x(), 5);
+            QVERIFY(qAbs(board->lblScore[i]->y() - board->lblTeam[i]->y() - g.labelHeight) <= 1);
+            QCOMPARE(board->lblTeam2[i]->x(), 40);
+            QVERIFY(!board->lblTeam2[i]->isVisible());
+        }
+        if (teams == 10) {
+            QCOMPARE(board->lblScore[9]->caption(), QStringLiteral("$ 1500")); // no separator after a resize
+            QCOMPARE(board->lblTeam[9]->caption(), QStringLiteral("Team 10:"));
+            QVERIFY(board->lblScore[9]->geometry().bottom() < board->height());
+        }
+        // The geometry of the board is the same, teams or not.
+        QVERIFY(qAbs(board->vseCategories->y() - (g.y0 + 5)) <= 1);
+    }
+
+    void secondGameKeepsOnlyItsOwnTeamLabels()
+    {
+        std::unique_ptr<frmMain> board(newBoard());
+        board->PrepareTeamLabels(10);
+        board->PrepareTeamLabels(2);
+        QCOMPARE(board->lblTeam.size(), 2);
+        QCOMPARE(board->lblScore.size(), 2);
+        QCOMPARE(board->lblTeam2.size(), 2);
+        QCOMPARE(board->lblScore2.size(), 2);
+    }
+
+    void backdropRunsBlackBlueBlack()
+    {
+        const QImage row = BackdropRow(800);
+        QCOMPARE(qBlue(row.pixel(0, 0)), 0);
+        QCOMPARE(qBlue(row.pixel(400, 0)), 255);
+        QCOMPARE(qBlue(row.pixel(200, 0)), 128);
+        QCOMPARE(qBlue(row.pixel(799, 0)), 1);
+        QCOMPARE(qRed(row.pixel(200, 0)) + qGreen(row.pixel(200, 0)), 0);
+        const QImage odd = BackdropRow(7); // half rounds 3.5 to 4
+        QCOMPARE(qBlue(odd.pixel(4, 0)), 255);
+        QCOMPARE(qBlue(odd.pixel(6, 0)), 128);
+    }
+
+    void crammedTextClimbsToItsLastFittingSize_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QSizeF>("box");
+        QTest::newRow("value tile") << "$400" << QSizeF(120, 75);
+        QTest::newRow("two-word title") << "Animal Kingdom" << QSizeF(110, 60);
+        QTest::newRow("stops between 8 and 18") << "World Capitals of Europe" << QSizeF(90, 50);
+        QTest::newRow("big answer screen") << "What is the tallest mountain on Earth?" << QSizeF(1200, 900);
+    }
+    void crammedTextClimbsToItsLastFittingSize()
+    {
+        QFETCH(QString, text);
+        QFETCH(QSizeF, box);
+        CaptionControl c;
+        c.setFont(bold(8));
+        CramText(text, c, 8, box.width(), box.height());
+        QCOMPARE(int(c.fontSize()), largestFittingSize(text, 8, box.width(), box.height()));
+        QVERIFY(TextFits(c.font(), c.caption(), box.width(), box.height()));
+        QCOMPARE(c.caption().remove(QLatin1Char('\n')).remove(QLatin1Char(' ')), QString(text).remove(QLatin1Char(' ')));
+    }
+
+    void fittingEdgeCases()
+    {
+        CaptionControl c;
+        c.setFont(bold(8));
+        // One word wider than the box at 8 ends at 7, on one line.
+        CramText(QStringLiteral("Supercalifragilistic"), c, 8, 30, 40);
+        QCOMPARE(c.fontSize(), 7.0);
+        QCOMPARE(c.caption(), QStringLiteral("Supercalifragilistic"));
+        // Two words that do not fit side by side: one word a line.
+        const qreal oneWord = CaptionControl::textWidth(bold(8), QStringLiteral("Wombat"));
+        c.setFontSize(8);
+        CramText(QStringLiteral("Wombat Wombat"), c, 8, oneWord * 1.5, 400);
+        QVERIFY(c.caption().contains(QLatin1Char('\n')));
+        for (const QString &line : c.caption().split(QLatin1Char('\n')))
+            QCOMPARE(line, QStringLiteral("Wombat"));
+        // Double spaces leave no empty line and no leading space.
+        const QString wrapped = WrapText(QStringLiteral("alpha  beta  gamma"), bold(20), 90);
+        for (const QString &line : wrapped.split(QLatin1Char('\n'))) {
+            QVERIFY(!line.isEmpty());
+            QVERIFY(!line.startsWith(QLatin1Char(' ')) && !line.endsWith(QLatin1Char(' ')));
+        }
+        // An empty text gives an empty caption.
+        c.setCaption(QStringLiteral("old"));
+        CramText(QString(), c, 8, 100, 100);
+        QCOMPARE(c.caption(), QString());
+        // No break offered: the rest stays on one over-long line.
+        QCOMPARE(WrapText(QStringLiteral("Unbreakable"), bold(20), 10), QStringLiteral("Unbreakable"));
+    }
+
+    void longClueShrinksUntilItFitsTheAnswerScreen()
+    {
+        QString clue;
+        while (clue.size() < 1999)
+            clue += QStringLiteral("a long clue that goes on and on ");
+        clue.truncate(1999);
+        CaptionControl tv;
+        tv.setFont(bold(60));
+        CramText(clue, tv, 60, 800, 600);
+        QVERIFY(tv.fontSize() < 50);
+        QVERIFY(TextFits(tv.font(), tv.caption(), 800, 600));
+        QVERIFY(!TextFits(bold(tv.fontSize() + 1), WrapText(clue, bold(tv.fontSize() + 1), 800), 800, 600));
+    }
+
+    void zoomGrowsInFiveEqualStepsToTheWholeBoard()
+    {
+        std::unique_ptr<frmMain> board(newBoard());
+        board->show();
+        board->Teams = 3;
+        board->PrepareTeamLabels(3);
+        board->Form_Resize();
+        board->vseQuestion_RealignFrame(0);
+        FakeClock clock;
+        QList<Frame> frames;
+        clock.onPause = [&](int ms) {
+            QCOMPARE(ms, 25);
+            frames.append({board->vseTV->geometry(), board->vseTV->fontSize(), board->vseTV->isVisible()});
+        };
+        board->vseTV->setCaption(board->vseQuestion[0]->caption());
+        const QRect tile(board->vseQuestion[0]->mapTo(board->vseTV->parentWidget(), QPoint(0, 0)),
+                         board->vseQuestion[0]->size());
+        const qreal tileFont = board->vseQuestion[0]->fontSize();
+
+        board->ZoomTV(board->vseQuestion[0], basPLOVQuzr::PicIdScreen);
+
+        QCOMPARE(frames.size(), 5);
+        const QSizeF W = board->boardSize();
+        const std::array<QRectF, 6> expected = ZoomRects(QRectF(tile), W);
+        for (int k = 0; k < 5; ++k) {
+            QVERIFY(frames[k].visible);
+            QVERIFY(qAbs(frames[k].geometry.x() - expected[size_t(k + 1)].x()) <= 1);
+            QVERIFY(qAbs(frames[k].geometry.width() - expected[size_t(k + 1)].width()) <= 1);
+        }
+        QCOMPARE(frames.last().geometry, QRect(QPoint(0, 0), W.toSize()));
+        // Equal steps: every step moves the width by the same amount.
+        const int step = frames[1].geometry.width() - frames[0].geometry.width();
+        for (int k = 2; k < 5; ++k)
+            QVERIFY(qAbs(frames[k].geometry.width() - frames[k - 1].geometry.width() - step) <= 2);
+        // With a caption the font grows with the width.
+        QVERIFY(qAbs(frames.last().fontSize - tileFont * W.width() / tile.width()) < 0.5);
+        // Three teams: three pairs shown on the answer screen.
+        for (int i = 0; i < 3; ++i) {
+            QVERIFY(board->lblTeam2[i]->isVisible());
+            QVERIFY(board->lblScore2[i]->isVisible());
+        }
+        QVERIFY(!board->lblCategory->isVisible());
+    }
+
+    void zoomWithoutCaptionKeepsTheFontAndShowsNoTeamsWithoutScoring()
+    {
+        std::unique_ptr<frmMain> board(newBoard());
+        board->show();
+        FakeClock clock;
+        board->vseTV->setCaption(QString());
+        board->vseTV->setFontSize(11);
+        QList<qreal> sizes;
+        clock.onPause = [&](int) { sizes.append(board->vseTV->fontSize()); };
+        board->ZoomTV(board->vseQuestion[9], basPLOVQuzr::PicIdDailyDouble);
+        // The screen takes the tile's font size, then keeps it.
+        for (qreal s : sizes)
+            QCOMPARE(s, board->vseQuestion[9]->fontSize());
+        QVERIFY(!board->lblTeam2[0]->isVisible());
+        PictureBox expected;
+        DrawLibraryBitmap(expected, basPLOVQuzr::PicIdDailyDouble);
+        QCOMPARE(board->vseTV->picture(), expected.image());
+    }
+
+    void headerZoomShowsTheTitleAndLocksTheScreen()
+    {
+        std::unique_ptr<frmMain> board(newBoard());
+        board->show();
+        FakeClock clock;
+        board->vseCategory[4]->setCaption(QStringLiteral("Rivers"));
+        board->vseTV->setTag(QStringLiteral("SA|3"));
+        QRect first;
+        clock.onPause = [&](int) {
+            if (first.isNull())
+                first = board->vseTV->geometry();
+        };
+        board->ZoomTV(board->vseCategory[4], basPLOVQuzr::PicIdScreen);
+        QCOMPARE(board->vseTV->tag(), QStringLiteral("NO"));
+        QCOMPARE(board->vseTV->caption(), QStringLiteral("Rivers"));
+        // The first step starts from the header's place.
+        const QRect header(board->vseCategory[4]->mapTo(board->vseTV->parentWidget(), QPoint(0, 0)),
+                           board->vseCategory[4]->size());
+        QVERIFY(first.x() < header.x() && first.x() > header.x() - header.x() / 4);
+        QCOMPARE(board->vseTV->geometry(), QRect(QPoint(0, 0), board->boardSize().toSize()));
+    }
+
+    void flipFoldsAndUnfoldsOverTheWholeBoard()
+    {
+        std::unique_ptr<frmMain> board(newBoard());
+        board->show();
+        FakeClock clock;
+        board->ZoomTV(board->vseQuestion[14], basPLOVQuzr::PicIdFinal);
+        QList<QRect> frames;
+        clock.onPause = [&](int ms) {
+            QCOMPARE(ms, 16);
+            frames.append(board->vseTV->geometry());
+        };
+        board->RotateTV(basPLOVQuzr::PicIdFinal, basPLOVQuzr::PicIdScreen);
+        QCOMPARE(frames.size(), 18);
+        const QSize W = board->boardSize().toSize();
+        // Folding: ever thinner, centred, down to the sin 10 degrees strip,
+        // which the last (zero-height) step leaves in place.
+        for (int k = 1; k < 8; ++k)
+            QVERIFY(frames[k].height() < frames[k - 1].height());
+        QCOMPARE(frames[8], frames[7]);
+        QVERIFY(qAbs(frames[7].height() - W.height() * std::sin(10 * M_PI / 180)) <= 1);
+        QVERIFY(qAbs(frames[3].center().y() - W.height() / 2) <= 1);
+        // Unfolding: ever wider, centred, ending over the whole board.
+        for (int k = 10; k < 18; ++k)
+            QVERIFY(frames[k].width() > frames[k - 1].width());
+        QCOMPARE(frames.last(), QRect(QPoint(0, 0), W));
+        QCOMPARE(board->vseTV->geometry(), QRect(QPoint(0, 0), W));
+        PictureBox face;
+        DrawLibraryBitmap(face, basPLOVQuzr::PicIdScreen);
+        QCOMPARE(board->vseTV->picture(), face.image());
+    }
+
+    void loadRetriesSoundThenGoesOnWithout()
+    {
+        FakeSoundControl fake;
+        ScriptedMsgBox boxes;
+        fake.setInitFailures(2);
+        boxes.answers = {MsgBoxResult::Retry, MsgBoxResult::Cancel};
+        {
+            std::unique_ptr<frmMain> board(new frmMain);
+            QCOMPARE(boxes.shown.size(), 2);
+            for (const ShownBox &box : boxes.shown) {
+                QCOMPARE(box.text, QStringLiteral(
+                    "I am unable to initialize DirectSound. This might be caused if a sound is currently playing. "
+                    "Click RETRY after all sounds have stopped to try again. Click CANCEL to play the game WITHOUT "
+                    "sound."));
+                QCOMPARE(box.style, MsgBoxStyle::RetryCancel | MsgBoxStyle::Critical);
+                QCOMPARE(box.caption, QStringLiteral("PLOV(tm) Quizzarr!"));
+            }
+            QCOMPARE(fake.calls(), QStringList({QStringLiteral("InitSound failed"), QStringLiteral("InitSound failed")}));
+        }
+        boxes.shown.clear();
+        fake.reset();
+        // Two boards in a row: initialised and shut down once each.
+        for (int game = 0; game < 2; ++game) {
+            auto *board = new frmMain;
+            QSignalSpy gone(board, &frmMain::unloaded);
+            board->Unload();
+            QCOMPARE(gone.size(), 1);
+            board->Unload(); // a second unload does nothing
+            QCOMPARE(gone.size(), 1);
+            delete board;
+        }
+        QVERIFY(boxes.shown.isEmpty());
+        QCOMPARE(fake.calls(), QStringList({QStringLiteral("InitSound"), QStringLiteral("Shutdown"),
+                                            QStringLiteral("InitSound"), QStringLiteral("Shutdown")}));
+    }
+
+    void answerTimeComesFromRound1Timer_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<int>("ms");
+        QTest::newRow("15 seconds") << QByteArray("[Round1]\r\nTimer=15\r\n") << 15000;
+        QTest::newRow("no Timer key") << QByteArray("[Round1]\r\nDescription=x\r\n") << 10000;
+        QTest::newRow("fraction") << QByteArray("[Round1]\r\nTimer=2.5\r\n") << 2500;
+        QTest::newRow("zero") << QByteArray("[Round1]\r\nTimer=0\r\n") << 10000;
+        QTest::newRow("leading number") << QByteArray("[Round1]\r\nTimer=12 seconds\r\n") << 12000;
+        QTest::newRow("not a number") << QByteArray("[Round1]\r\nTimer=soon\r\n") << 10000;
+        QTest::newRow("only round 1 counts") << QByteArray("[Round1]\r\n[Round2]\r\nTimer=30\r\n[Final]\r\nTimer=40\r\n")
+                                             << 10000;
+    }
+    void answerTimeComesFromRound1Timer()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(int, ms);
+        basPLOVQuzr::QuestionFile = writeSet(content);
+        std::unique_ptr<frmMain> board(new frmMain);
+        QCOMPARE(board->tmrQuestion->interval(), ms);
+        QVERIFY(!board->tmrQuestion->isActive());
+    }
+
+    void tilesAndHeadersWearTheScreenFace()
+    {
+        basPLOVQuzr::PicIdScreen = 300;
+        std::unique_ptr<frmMain> board(new frmMain);
+        PictureBox face;
+        DrawLibraryBitmap(face, 300);
+        QCOMPARE(board->vseQuestion[29]->picture(), face.image());
+        QCOMPARE(board->vseCategory[0]->picture(), face.image());
+        QCOMPARE(board->vseQuestion[17]->caption(), QStringLiteral("$300"));
+        QCOMPARE(board->vseCategory[3]->caption(), QStringLiteral("PotPourri"));
+    }
+};
+
+QTEST_MAIN(TestBoard)
+#include "test_board.moc"
