@@ -2,11 +2,15 @@
 // banner, the teams' scores down the left, and the full-screen answer
 // screen that grows out of a pressed tile. One board lives for one game.
 //
-// The form is split across files by concern: load and unload
-// (frmMain_Load.cpp), layout and text fitting (frmMain_Layout.cpp), the
-// answer screen's animation (frmMain_Animation.cpp).
+// The form only shows and forwards: the rules of play are BoardGame's, and
+// the form shows the game's state through the BoardView it implements. It
+// is split across files by concern: load and unload (frmMain_Load.cpp),
+// layout and text fitting (frmMain_Layout.cpp), the answer screen's
+// animation (frmMain_Animation.cpp), play (frmMain_Play.cpp).
 #pragma once
 
+#include "BoardGame.h"
+#include "BoardView.h"
 #include "board/BoardLayout.h"
 #include "platform/PictureBox.h"
 
@@ -21,7 +25,7 @@ class CaptionControl;
 class ShadowLabel;
 class QTimer;
 
-class frmMain : public QWidget {
+class frmMain : public QWidget, public BoardView {
     Q_OBJECT
 public:
     // Form_Load: builds the controls, starts the sound library (offering to
@@ -29,8 +33,13 @@ public:
     explicit frmMain(QWidget *parent = nullptr);
     ~frmMain() override;
 
+    // The rules of play, and the state of the round they keep.
+    BoardGame game{*this};
     // Number of scoring teams, 0 ("No scoring") to 10; set after loading.
-    qint16 Teams = 0;
+    qint16 &Teams = game.state().Teams;
+
+    // Sets up the round named by Round, or ends the game.
+    void SetUpRound();
 
     // Controls, under the names the game gives them.
     CaptionControl *vseCategories = nullptr;
@@ -78,6 +87,33 @@ public:
     // the window go.
     void Unload();
 
+    // BoardView: the game's state shown on the controls.
+    void tileChanged(int tile) override;
+    void headerChanged(int column) override;
+    void stepCodeChanged() override;
+    void scoreChanged(int team) override;
+    void hideGrid() override;
+    void showGrid() override;
+    void showBoardWindow() override;
+    void layOut() override;
+    void showHeaderRow() override;
+    void showTileRow(int row) override;
+    void zoomFromTile(int tile, qint32 picture) override;
+    void zoomFromHeader(int column, qint32 picture) override;
+    void rotate(qint32 fromPicture, qint32 toPicture) override;
+    void setScreenCaption(const QString &caption) override;
+    void screenTakesTile(int tile) override;
+    void showOnScreen(const QString &text) override;
+    void setOverlayCaptions(const QString &category, const QString &value) override;
+    void setCategoryCaption(const QString &category) override;
+    void showOverlay(int column) override;
+    void hideScreen() override;
+    bool screenVisible() const override;
+    void startAnswerTimer() override;
+    void stopAnswerTimer() override;
+    void unload() override;
+    bool isUnloaded() const override;
+
 signals:
     void unloaded();
 
@@ -85,9 +121,24 @@ protected:
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
 
 private:
+    // Held while the game handles an event: an unload meanwhile lets the
+    // window go only when the last handler has returned.
+    class Busy {
+    public:
+        explicit Busy(frmMain &form);
+        ~Busy();
+
+    private:
+        frmMain &form_;
+    };
+
     void createControls();
+    void connectControls();
+    void fitTile(int tile);
+    void fitHeader(int column);
     void createTiles();
     void createAnswerScreen();
     void startSound();
@@ -104,4 +155,6 @@ private:
     // Backdrop and banner as painted, kept for the window's size.
     QPixmap background_;
     bool unloaded_ = false;
+    int busy_ = 0;
+    bool deletePending_ = false;
 };

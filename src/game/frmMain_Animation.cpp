@@ -45,7 +45,7 @@ void frmMain::ZoomTV(QWidget *source, qint32 PictureID)
     auto *caption = static_cast<CaptionControl *>(source);
     const bool isTile = std::find(vseQuestion.begin(), vseQuestion.end(), source) != vseQuestion.end();
     if (!isTile) {
-        vseTV->setTag(QStringLiteral("NO"));
+        game.setStepCode(QStringLiteral("NO"));
         vseTV->setCaption(caption->caption());
     }
     // Our containers draw no frame: the screen starts exactly on the source.

@@ -51,6 +51,7 @@ void frmMain::createControls()
     createAnswerScreen();
     LoadTeamLabel(0);
     tmrQuestion = new QTimer(this);
+    connectControls();
 }
 
 void frmMain::createTiles()
@@ -60,10 +61,9 @@ void frmMain::createTiles()
     for (int c = 0; c < 6; ++c) {
         auto *header = new CaptionControl;
         header->setFont(boldArial());
-        header->setCaption(QStringLiteral("PotPourri"));
+        header->setCaption(game.state().headerCaption[size_t(c)]);
         vseCategories->addChild(header, QRectF(c, 0, 1, 1));
         vseCategory[size_t(c)] = header;
-        connect(header, &CaptionControl::resized, this, [this, c] { vseCategory_RealignFrame(c); });
     }
     for (int r = 0; r < 5; ++r) {
         auto *row = new CaptionControl(area_);
@@ -74,10 +74,9 @@ void frmMain::createTiles()
             auto *tile = new CaptionControl;
             tile->setFont(boldArial());
             tile->setTextColor(kValueGold);
-            tile->setCaption(Tiles::caption(i, 1));
+            tile->setCaption(game.state().tileCaption[size_t(i)]);
             row->addChild(tile, QRectF(c, 0, 1, 1));
             vseQuestion[size_t(i)] = tile;
-            connect(tile, &CaptionControl::resized, this, [this, i] { vseQuestion_RealignFrame(i); });
         }
     }
 }
@@ -174,7 +173,25 @@ void frmMain::Unload()
         basPLOVQuzr::hSoundLib->Shutdown();
     hide();
     emit unloaded();
-    deleteLater();
+    // A handler of this board may still be running (a wait for a sound, a
+    // message box): the window goes when the last one has returned.
+    if (busy_ > 0)
+        deletePending_ = true;
+    else
+        deleteLater();
+}
+
+frmMain::Busy::Busy(frmMain &form) : form_(form)
+{
+    ++form_.busy_;
+}
+
+frmMain::Busy::~Busy()
+{
+    if (--form_.busy_ == 0 && form_.deletePending_) {
+        form_.deletePending_ = false;
+        form_.deleteLater();
+    }
 }
 
 void frmMain::closeEvent(QCloseEvent *event)

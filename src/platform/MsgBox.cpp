@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 
 #include <utility>
 #include <vector>
@@ -47,12 +48,24 @@ MsgBoxResult escapeAnswer(const Buttons &buttons)
     return buttons.front().second;
 }
 
+// Boxes are read by a whole room, often from a projector: the text grows
+// with the screen.
+QFont readableFont()
+{
+    QFont font(QStringLiteral("Arial"));
+    const QScreen *screen = QGuiApplication::primaryScreen();
+    const int height = screen ? screen->size().height() : 768;
+    font.setPointSizeF(qBound(11.0, height / 64.0, 40.0));
+    return font;
+}
+
 class QtMsgBox final : public MsgBoxHandler {
 public:
     MsgBoxResult show(const QString &text, int style, const QString &caption) override
     {
         const Buttons buttons = buttonsFor(style);
         QMessageBox box(iconFor(style), caption, text, QMessageBox::NoButton, QApplication::activeWindow());
+        box.setFont(readableFont());
         for (const auto &[button, result] : buttons)
             box.addButton(button);
         box.setDefaultButton(buttons.front().first);

@@ -1,0 +1,31 @@
+// Scoring and the host's special keys.
+
+#include "BoardGame.h"
+
+#include "GameRules.h"
+#include "GameState.h"
+
+bool BoardGame::KeyDown(QChar letter, int digit, int modifiers)
+{
+    // Keys count only while the board itself shows.
+    if (view_.screenVisible() || view_.isUnloaded())
+        return false;
+    const KeyAction action = DecideKey(letter, digit, modifiers, state_.CurrentValue, state_.Teams);
+    switch (action.kind) {
+    case KeyAction::EndGame:
+        view_.unload();
+        return true;
+    case KeyAction::EndRound:
+        nextRound();
+        return true;
+    case KeyAction::Score:
+        basPLOVQuzr::Scores[size_t(action.team - 1)] += state_.CurrentValue;
+        view_.scoreChanged(action.team - 1);
+        return true;
+    case KeyAction::Swallow:
+        return true;
+    case KeyAction::Nothing:
+        break;
+    }
+    return false;
+}

@@ -1,0 +1,45 @@
+// Rules of the game that need neither screen nor speakers: the daily-double
+// draws, the step codes of the answer screen, scoring keys, score texts and
+// the final standings.
+#pragma once
+
+#include "platform/Clock.h"
+
+#include <QString>
+
+#include <array>
+#include <utility>
+
+// Draws the round's daily doubles among the tiles in play (a non-empty
+// caption): two different tiles, or one (both the same) when three or more
+// columns are empty (tilesDone 15 or more).
+std::pair<qint16, qint16> DrawDailyDoubles(const std::array<QString, 30> &tileCaptions, int tilesDone, Clock &clock);
+
+// A step code: its first two characters, and the number written from its
+// fourth on (0 when there is none).
+struct StepCode {
+    QString code;
+    qint16 index = 0;
+};
+StepCode ParseStepCode(const QString &tag);
+QString MakeStepCode(const char *code, int index);
+
+// What a key on the board does.
+struct KeyAction {
+    enum Kind { Nothing, EndGame, EndRound, Score, Swallow } kind = Nothing;
+    int team = 0; // 1..10 for Score
+};
+// modifiers: SHIFT 1, CTRL 2, ALT 4. digit: 0..9 for a key of the main
+// keyboard's digit row, -1 for any other key. letter: the key's letter.
+KeyAction DecideKey(QChar letter, int digit, int modifiers, int currentValue, int teams);
+
+// "###,###,##0": digits grouped in threes, a minus sign when negative.
+QString FormatScore(qint32 score);
+
+// The ranking key of a score: score + 60000 in at least six digits.
+QString RankingKey(qint32 score);
+
+// The standings message: one line per team, best first, the top line
+// marked "  WINNER" or "  TIED" when there are two teams or more; lines
+// joined by CR LF, no break at the end.
+QString StandingsText(int teams, const std::array<qint32, 10> &scores);

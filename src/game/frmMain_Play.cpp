@@ -1,0 +1,258 @@
+// Play: the board's events go to the game, and the game's state comes back
+// onto the controls.
+
+#include "frmMain.h"
+
+#include "GameRules.h"
+#include "GameState.h"
+#include "board/ShadowLabel.h"
+#include "board/TextFitting.h"
+#include "platform/CaptionControl.h"
+#include "platform/Clock.h"
+#include "platform/DigitRowKey.h"
+
+#include <QKeyEvent>
+#include <QTimer>
+
+namespace {
+
+// Each row of a new round reaches the screen as its own frame while the
+// board-fill sound plays.
+constexpr int kRowFrameMs = 120;
+const QColor kValueGold(255, 204, 51);
+
+bool allThreeHeld(Qt::KeyboardModifiers m)
+{
+    return (m & Qt::ShiftModifier) && (m & Qt::ControlModifier) && (m & Qt::AltModifier);
+}
+
+int modifierBits(Qt::KeyboardModifiers m)
+{
+    return (m & Qt::ShiftModifier ? 1 : 0) | (m & Qt::ControlModifier ? 2 : 0) | (m & Qt::AltModifier ? 4 : 0);
+}
+
+} // namespace
+
+void frmMain::connectControls()
+{
+    for (int i = 0; i < 30; ++i) {
+        CaptionControl *tile = vseQuestion[size_t(i)];
+        connect(tile, &CaptionControl::resized, this, [this, i] { vseQuestion_RealignFrame(i); });
+        connect(tile, &CaptionControl::pressed, this, [this, i](Qt::MouseButton button, Qt::KeyboardModifiers m) {
+            Busy busy(*this);
+            game.TilePress(i, button == Qt::LeftButton, allThreeHeld(m));
+        });
+    }
+    for (int c = 0; c < 6; ++c) {
+        CaptionControl *header = vseCategory[size_t(c)];
+        connect(header, &CaptionControl::resized, this, [this, c] { vseCategory_RealignFrame(c); });
+        connect(header, &CaptionControl::pressed, this, [this](Qt::MouseButton button, Qt::KeyboardModifiers) {
+            Busy busy(*this);
+            if (button == Qt::LeftButton)
+                game.HeaderPress();
+        });
+    }
+    connect(vseTV, &CaptionControl::pressed, this, [this](Qt::MouseButton button, Qt::KeyboardModifiers) {
+        Busy busy(*this);
+        if (button == Qt::LeftButton)
+            game.AnswerScreenPress();
+    });
+    connect(tmrQuestion, &QTimer::timeout, this, [this] {
+        Busy busy(*this);
+        game.AnswerTimeout();
+    });
+}
+
+void frmMain::SetUpRound()
+{
+    Busy busy(*this);
+    game.SetUpRound();
+}
+
+void frmMain::keyPressEvent(QKeyEvent *event)
+{
+    Busy busy(*this);
+    const int key = event->key();
+    const QChar letter = key >= Qt::Key_A && key <= Qt::Key_Z ? QChar(char16_t(key)) : QChar();
+    if (game.KeyDown(letter, DigitRowKey(*event), modifierBits(event->modifiers())))
+        event->accept();
+    else
+        event->ignore();
+}
+
+void frmMain::fitTile(int tile)
+{
+    CaptionControl *t = vseQuestion[size_t(tile)];
+    if (t->width() > 0 && !t->caption().isEmpty())
+        vseQuestion_RealignFrame(tile);
+}
+
+void frmMain::fitHeader(int column)
+{
+    CaptionControl *h = vseCategory[size_t(column)];
+    if (h->width() > 0 && !h->caption().isEmpty())
+        vseCategory_RealignFrame(column);
+}
+
+void frmMain::tileChanged(int tile)
+{
+    vseQuestion[size_t(tile)]->setCaption(game.state().tileCaption[size_t(tile)]);
+    // A tile put back may have been fitted while it was empty.
+    fitTile(tile);
+}
+
+void frmMain::headerChanged(int column)
+{
+    CaptionControl *header = vseCategory[size_t(column)];
+    header->setCaption(game.state().headerCaption[size_t(column)]);
+    header->setTag(game.state().headerTag[size_t(column)]);
+    fitHeader(column);
+}
+
+void frmMain::stepCodeChanged()
+{
+    vseTV->setTag(game.state().stepCode);
+}
+
+void frmMain::scoreChanged(int team)
+{
+    const QString text = QStringLiteral("$ ") + FormatScore(basPLOVQuzr::Scores[size_t(team)]);
+    if (team < lblScore.size()) {
+        lblScore[team]->setCaption(text);
+        lblScore2[team]->setCaption(text);
+    }
+}
+
+void frmMain::hideGrid()
+{
+    vseCategories->hide();
+    for (CaptionControl *row : vseQuestions)
+        row->hide();
+}
+
+void frmMain::showGrid()
+{
+    vseCategories->show();
+    for (CaptionControl *row : vseQuestions)
+        row->show();
+}
+
+void frmMain::showBoardWindow()
+{
+    if (isHidden()) {
+        showFullScreen();
+        activateWindow();
+    }
+}
+
+void frmMain::layOut()
+{
+    Form_Resize();
+}
+
+void frmMain::showHeaderRow()
+{
+    vseCategories->show();
+    for (int c = 0; c < 6; ++c)
+        vseCategory_RealignFrame(c);
+    repaint();
+    Clock::instance().pause(kRowFrameMs);
+}
+
+void frmMain::showTileRow(int row)
+{
+    vseQuestions[size_t(row)]->show();
+    for (int i = row * 6; i < row * 6 + 6; ++i)
+        vseQuestion_RealignFrame(i);
+    repaint();
+    Clock::instance().pause(kRowFrameMs);
+}
+
+void frmMain::zoomFromTile(int tile, qint32 picture)
+{
+    ZoomTV(vseQuestion[size_t(tile)], picture);
+}
+
+void frmMain::zoomFromHeader(int column, qint32 picture)
+{
+    ZoomTV(vseCategory[size_t(column)], picture);
+}
+
+void frmMain::rotate(qint32 fromPicture, qint32 toPicture)
+{
+    RotateTV(fromPicture, toPicture);
+}
+
+void frmMain::setScreenCaption(const QString &caption)
+{
+    vseTV->setCaption(caption);
+}
+
+void frmMain::screenTakesTile(int tile)
+{
+    const CaptionControl *t = vseQuestion[size_t(tile)];
+    vseTV->setFont(t->font());
+    vseTV->setTextColor(kValueGold);
+    vseTV->setCaption(t->caption());
+}
+
+void frmMain::showOnScreen(const QString &text)
+{
+    const QSizeF board = boardSize();
+    vseTV->setTextColor(Qt::white);
+    CramText(text, *vseTV, vseQuestion[0]->fontSize(), 0.8 * board.width(), 0.75 * board.height());
+    vseTV->repaint();
+}
+
+void frmMain::setOverlayCaptions(const QString &category, const QString &value)
+{
+    lblCategory->setCaption(category);
+    lblValue->setCaption(value);
+}
+
+void frmMain::setCategoryCaption(const QString &category)
+{
+    lblCategory->setCaption(category);
+}
+
+void frmMain::showOverlay(int column)
+{
+    const QFont font = vseCategory[size_t(column)]->font();
+    lblCategory->setFont(font);
+    lblValue->setFont(font);
+    const QSizeF board = boardSize();
+    lblCategory->move(qRound(0.05 * board.width()), qRound(0.05 * board.height()));
+    lblValue->move(qRound(0.95 * board.width()) - lblValue->width(), qRound(0.05 * board.height()));
+    lblCategory->show();
+    lblValue->show();
+}
+
+void frmMain::hideScreen()
+{
+    vseTV->hide();
+}
+
+bool frmMain::screenVisible() const
+{
+    return !vseTV->isHidden();
+}
+
+void frmMain::startAnswerTimer()
+{
+    tmrQuestion->start();
+}
+
+void frmMain::stopAnswerTimer()
+{
+    tmrQuestion->stop();
+}
+
+void frmMain::unload()
+{
+    Unload();
+}
+
+bool frmMain::isUnloaded() const
+{
+    return unloaded_;
+}
