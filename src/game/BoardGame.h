@@ -67,6 +67,9 @@ private:
     QString categoryTitle(int column) const;
     void setTile(int tile, const QString &caption);
 
+    // Until the first round is set up (while the start sound plays), only
+    // the end-game key counts.
+    bool started_ = false;
     BoardView &view_;
     BoardState state_;
 };

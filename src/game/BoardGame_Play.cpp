@@ -53,7 +53,7 @@ void BoardGame::columnCheck(int column)
 
 void BoardGame::TilePress(int tile, bool leftButton, bool shiftCtrlAlt)
 {
-    if (tile < 0 || tile >= 30 || view_.isUnloaded() || !leftButton)
+    if (tile < 0 || tile >= 30 || view_.isUnloaded() || !started_ || !leftButton)
         return;
     if (shiftCtrlAlt) {
         specialPress(tile);
@@ -121,7 +121,7 @@ void BoardGame::openTile(int tile)
 void BoardGame::AnswerScreenPress()
 {
     using namespace basPLOVQuzr;
-    if (view_.isUnloaded())
+    if (view_.isUnloaded() || !started_)
         return;
     const qint64 now = Clock::instance().now();
     if (basDetectDevEnv::IsRunningCompiled() && now - state_.LastClickTime < kLockSeconds)
@@ -204,7 +204,7 @@ void BoardGame::AnswerTimeout()
 
 void BoardGame::HeaderPress()
 {
-    if (state_.paradeRunning || view_.isUnloaded())
+    if (state_.paradeRunning || view_.isUnloaded() || !started_)
         return;
     state_.LastClickTime = Clock::instance().now();
     state_.paradeRunning = true;

@@ -25,6 +25,7 @@ void BoardGame::nextRound()
 void BoardGame::SetUpRound()
 {
     using basPLOVQuzr::Round;
+    started_ = true;
     Clock::instance().reseed();
     // Each absent round passes on to the next; the final is round 3.
     if (Round < 4 && !GameReads::RoundExists(basPLOVQuzr::QuestionFile, Round)) {

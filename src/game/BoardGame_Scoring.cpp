@@ -11,6 +11,8 @@ bool BoardGame::KeyDown(QChar letter, int digit, int modifiers)
     if (view_.screenVisible() || view_.isUnloaded())
         return false;
     const KeyAction action = DecideKey(letter, digit, modifiers, state_.CurrentValue, state_.Teams);
+    if (!started_ && action.kind != KeyAction::EndGame)
+        return false;
     switch (action.kind) {
     case KeyAction::EndGame:
         view_.unload();

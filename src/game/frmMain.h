@@ -40,6 +40,8 @@ public:
 
     // Sets up the round named by Round, or ends the game.
     void SetUpRound();
+    // Shows the board over the whole screen.
+    void showOnWholeScreen();
 
     // Controls, under the names the game gives them.
     CaptionControl *vseCategories = nullptr;

@@ -12,6 +12,7 @@
 #include "platform/DigitRowKey.h"
 
 #include <QKeyEvent>
+#include <QScreen>
 #include <QTimer>
 
 namespace {
@@ -139,10 +140,18 @@ void frmMain::showGrid()
 
 void frmMain::showBoardWindow()
 {
-    if (isHidden()) {
-        showFullScreen();
-        activateWindow();
-    }
+    if (isHidden())
+        showOnWholeScreen();
+}
+
+void frmMain::showOnWholeScreen()
+{
+    // Without a window manager "full screen" is only a wish: the window
+    // takes the screen's size itself as well.
+    if (const QScreen *s = screen())
+        setGeometry(s->geometry());
+    showFullScreen();
+    activateWindow();
 }
 
 void frmMain::layOut()

@@ -55,7 +55,7 @@ QFont readableFont()
     QFont font(QStringLiteral("Arial"));
     const QScreen *screen = QGuiApplication::primaryScreen();
     const int height = screen ? screen->size().height() : 768;
-    font.setPointSizeF(qBound(11.0, height / 64.0, 40.0));
+    font.setPointSizeF(qBound(12.0, height / 48.0, 48.0));
     return font;
 }
 

@@ -1,14 +1,283 @@
 #include "frmSelect.h"
 
+#include "QuestionListDelegate.h"
+#include "QuestionSetList.h"
+#include "SelectLayout.h"
+#include "clsShellFolders.h"
+#include "board/Backdrop.h"
+#include "game/GameState.h"
+#include "game/frmMain.h"
+#include "help/frmHowToPlay.h"
+#include "platform/CaptionControl.h"
+#include "platform/CommandButton.h"
+#include "platform/ModuleFileName.h"
+#include "platform/MsgBox.h"
+#include "platform/SpecialFolders.h"
+#include "questions/GameReads.h"
+#include "shell/PictureLibrary.h"
+#include "shell/SoundLibrary.h"
+#include "shell/basDetectDevEnv.h"
 #include "shell/basPLOVQuzr.h"
 
+#include <QApplication>
 #include <QCloseEvent>
+#include <QComboBox>
+#include <QFontMetricsF>
+#include <QLabel>
+#include <QListWidget>
+#include <QPainter>
+#include <QScreen>
+
+namespace {
+
+QFont arial(qreal points)
+{
+    QFont f(QStringLiteral("Arial"));
+    f.setPointSizeF(points);
+    return f;
+}
+
+const QStringList kTeamCounts{
+    QStringLiteral("No scoring"), QStringLiteral("One team"),   QStringLiteral("Two teams"),
+    QStringLiteral("Three teams"), QStringLiteral("Four teams"), QStringLiteral("Five teams"),
+    QStringLiteral("Six teams"),  QStringLiteral("Seven teams"), QStringLiteral("Eight teams"),
+    QStringLiteral("Nine teams"), QStringLiteral("Ten teams!")};
+
+} // namespace
 
 frmSelect::frmSelect(QWidget *parent) : QWidget(parent)
 {
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(QStringLiteral("Select the question set to use"));
+    createControls();
     resize(640, 480);
+    if (const QScreen *screen = QGuiApplication::primaryScreen())
+        move((screen->size().width() - width()) / 2, (screen->size().height() - height()) / 2);
+    PopulateQZ2();
+    cmbScore->setCurrentIndex(3);
+    if (lstQuestions->count() > 0)
+        lstQuestions->setCurrentRow(0);
+    lstQuestions->setFocus();
+}
+
+frmSelect::~frmSelect() = default;
+
+void frmSelect::createControls()
+{
+    lstQuestions = new QListWidget(this);
+    lstQuestions->setFont(arial(9.75));
+    lstQuestions->setItemDelegate(new QuestionListDelegate(lstQuestions));
+    lstQuestions->setSelectionMode(QAbstractItemView::SingleSelection);
+    connect(lstQuestions, &QListWidget::itemDoubleClicked, this, [this] { cmdStart_Click(); });
+
+    lblScore = new QLabel(QStringLiteral("Keep score for:"), this);
+    lblScore->setFont(arial(12));
+    lblScore->setStyleSheet(QStringLiteral("color: white; background: transparent;"));
+    cmbScore = new QComboBox(this);
+    cmbScore->setFont(arial(9.75));
+    cmbScore->addItems(kTeamCounts);
+    createButtons();
+    // Keyboard order: the list first, then Start Game, then How To Play.
+    setTabOrder(lstQuestions, cmdStart);
+    setTabOrder(cmdStart, cmdHowToPlay);
+    setTabOrder(cmdHowToPlay, cmdEditor);
+    setTabOrder(cmdEditor, cmbScore);
+}
+
+void frmSelect::createButtons()
+{
+    vseButtons = new CaptionControl(this);
+    vseButtons->setDesignSize(QSizeF(7332, 732));
+    cmdStart = new CommandButton(QStringLiteral("Start Game"));
+    cmdEditor = new CommandButton(QStringLiteral("Question Editor/Creator"));
+    cmdHowToPlay = new CommandButton(QStringLiteral("How To Play"));
+    vseButtons->addChild(cmdStart, QRectF(0, 0, 2250, 732));
+    vseButtons->addChild(cmdEditor, QRectF(2550, 0, 2250, 732));
+    vseButtons->addChild(cmdHowToPlay, QRectF(5100, 0, 2235, 732));
+
+    vseImportExport = new CaptionControl(this);
+    vseImportExport->setDesignSize(QSizeF(732, 1932));
+    cmdExport = new CommandButton(QStringLiteral(">> Export File"));
+    cmdImport = new CommandButton(QStringLiteral("<< Import File(s)"));
+    vseImportExport->addChild(cmdExport, QRectF(0, 0, 732, 825));
+    vseImportExport->addChild(cmdImport, QRectF(0, 1125, 732, 810));
+
+    for (CommandButton *b : {cmdStart, cmdEditor, cmdHowToPlay, cmdExport, cmdImport})
+        b->setFont(arial(9.75));
+    connect(cmdStart, &QPushButton::clicked, this, &frmSelect::cmdStart_Click);
+    connect(cmdEditor, &QPushButton::clicked, this, &frmSelect::cmdEditor_Click);
+    connect(cmdHowToPlay, &QPushButton::clicked, this, &frmSelect::cmdHowToPlay_Click);
+}
+
+QString frmSelect::documentsFolder() const
+{
+    return clsShellFolders().GetSpecialFolderLocation(uintptr_t(winId()), SpecialFolders::kDocuments);
+}
+
+void frmSelect::PopulateQZ2()
+{
+    lstQuestions->clear();
+    const QString program = ModuleFileName::programFolder();
+    lstQuestions->setProperty("programFolder", program);
+    for (const QuestionSetEntry &entry : ListQuestionSets(program, documentsFolder())) {
+        auto *item = new QListWidgetItem(entry.text, lstQuestions);
+        item->setData(Qt::UserRole, entry.folder);
+    }
+    lstQuestions->setCurrentRow(-1);
+    lstQuestions->clearSelection();
+    cmdStart->setVisible(lstQuestions->count() > 0);
+    vseButtons->setChildDesignRect(cmdStart, QRectF(0, 0, 2250, 732));
+    vseButtons->refresh();
+}
+
+QString frmSelect::GetEntryPath(const QListWidgetItem *entry) const
+{
+    const QString folder = entry->data(Qt::UserRole).toInt() == 1
+                               ? documentsFolder()
+                               : lstQuestions->property("programFolder").toString();
+    return folder + EntryFileName(entry->text());
+}
+
+QListWidgetItem *frmSelect::selectedEntry() const
+{
+    const QList<QListWidgetItem *> selected = lstQuestions->selectedItems();
+    return selected.isEmpty() ? nullptr : selected.first();
+}
+
+bool frmSelect::checkSelectedEntry()
+{
+    QListWidgetItem *entry = selectedEntry();
+    if (!entry) {
+        MsgBox(QStringLiteral("Please select a question set to use before starting the game."),
+               MsgBoxStyle::OKOnly | MsgBoxStyle::Information, applicationTitle());
+        return false;
+    }
+    basPLOVQuzr::QuestionFile = GetEntryPath(entry);
+    if (GameReads::IsQuestionSet(GameReads::Description(basPLOVQuzr::QuestionFile)))
+        return true;
+    // The file is gone or no longer a question set: so is its entry.
+    delete lstQuestions->takeItem(lstQuestions->row(entry));
+    lstQuestions->clearSelection();
+    lstQuestions->setCurrentRow(-1);
+    if (lstQuestions->count() == 0) {
+        MsgBox(QStringLiteral("I'm sorry, but I am unable to locate any valid .QZ2 files."),
+               MsgBoxStyle::OKOnly | MsgBoxStyle::Critical, applicationTitle());
+        basPLOVQuzr::ShutdownLibraries();
+    }
+    return false;
+}
+
+void frmSelect::cmdStart_Click()
+{
+    if (board_ || !checkSelectedEntry())
+        return;
+    hide();
+    if (basPLOVQuzr::hSoundLib && basDetectDevEnv::IsRunningCompiled())
+        MsgBox(QStringLiteral("Please wait until all sounds playing have stopped, then click OK to start!"),
+               MsgBoxStyle::OKOnly | MsgBoxStyle::Exclamation, applicationTitle());
+    startBoard();
+}
+
+void frmSelect::startBoard()
+{
+    auto *board = new frmMain;
+    board_ = board;
+    connect(board, &frmMain::unloaded, this, &frmSelect::comeBack);
+    const int teams = cmbScore->currentIndex();
+    board->Teams = qint16(teams);
+    board->PrepareTeamLabels(teams);
+    basPLOVQuzr::Scores.fill(0);
+    board->Form_Resize();
+    board->showOnWholeScreen();
+    board->repaint();
+    PlayGameSound(107, true);
+    if (!board_ || board->isUnloaded())
+        return;
+    basPLOVQuzr::Round = 1;
+    board->SetUpRound();
+}
+
+void frmSelect::comeBack()
+{
+    show();
+    activateWindow();
+    lstQuestions->setFocus();
+}
+
+void frmSelect::cmdEditor_Click()
+{
+    QString fileToLoad;
+    if (QListWidgetItem *entry = selectedEntry()) {
+        const MsgBoxResult answer =
+            MsgBox(QStringLiteral("Click YES to edit ") + EntryFileName(entry->text()) +
+                       QStringLiteral(", else click NO to create a new Question set."),
+                   MsgBoxStyle::YesNo | MsgBoxStyle::Question, QStringLiteral("Question Editor/Creator"));
+        if (answer == MsgBoxResult::Yes)
+            fileToLoad = GetEntryPath(entry);
+    }
+    hide();
+    // The editor's own screen comes later; meanwhile a bare window stands
+    // in for it, and closing it comes back here.
+    auto *editor = new QWidget;
+    editor->setAttribute(Qt::WA_DeleteOnClose);
+    editor->setWindowTitle(QStringLiteral("Question Editor/Creator"));
+    editor->setProperty("FileToLoad", fileToLoad);
+    editor->resize(640, 480);
+    connect(editor, &QObject::destroyed, this, &frmSelect::comeBack);
+    editor_ = editor;
+    editor->show();
+}
+
+void frmSelect::cmdHowToPlay_Click()
+{
+    hide();
+    auto *help = new frmHowToPlay;
+    connect(help, &frmHowToPlay::unloaded, this, &frmSelect::comeBack);
+    help_ = help;
+    help->show();
+}
+
+void frmSelect::layOut()
+{
+    DrawLibraryBitmap(picText, 203);
+    banner_ = basPLOVQuzr::hPictureLib ? picText.image() : QImage();
+    const qreal labelWidth = QFontMetricsF(lblScore->font()).horizontalAdvance(lblScore->text());
+    const SelectLayout l = LayOutSelectScreen(QSizeF(size()), picText.height(), cmbScore->sizeHint().height(),
+                                              labelWidth, QSizeF(cmbScore->sizeHint()));
+    lstQuestions->setGeometry(l.list.toRect());
+    lblScore->setGeometry(l.scoreLabel.toRect());
+    cmbScore->setGeometry(l.scoreCombo.toRect());
+    // The two button bars stay transparent: the backdrop shows through.
+    vseButtons->setGeometry(l.buttons.toRect());
+    vseButtons->refresh();
+    vseImportExport->setGeometry(l.importExport.toRect());
+    vseImportExport->refresh();
+}
+
+void frmSelect::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    layOut();
+}
+
+void frmSelect::paintEvent(QPaintEvent *)
+{
+    QPainter p(this);
+    PaintBackdrop(p, rect());
+    // The band shows the banner's middle, cut at both sides.
+    if (!banner_.isNull())
+        p.drawImage(QPoint(0, 0), banner_, QRect((banner_.width() - width()) / 2, 0, width(), banner_.height()));
+}
+
+void frmSelect::keyPressEvent(QKeyEvent *event)
+{
+    // Enter presses the focused button, or else Start Game.
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        auto *button = qobject_cast<QPushButton *>(focusWidget());
+        (button ? button : cmdStart)->click();
+        return;
+    }
+    QWidget::keyPressEvent(event);
 }
 
 void frmSelect::closeEvent(QCloseEvent *event)
@@ -16,4 +285,5 @@ void frmSelect::closeEvent(QCloseEvent *event)
     // Closing the home screen ends the program.
     basPLOVQuzr::ShutdownLibraries();
     event->accept();
+    QCoreApplication::quit();
 }

@@ -1,13 +1,73 @@
-// The home screen, from which every game starts.
+// The home screen: the question sets to play, the number of teams, and the
+// way to the game, the editor and the help. Closing it ends the program.
 #pragma once
 
+#include "game/frmMain.h"
+#include "platform/PictureBox.h"
+
+#include <QImage>
+#include <QPointer>
 #include <QWidget>
+
+class CaptionControl;
+class CommandButton;
+class QComboBox;
+class QLabel;
+class QListWidget;
+class QListWidgetItem;
 
 class frmSelect : public QWidget {
     Q_OBJECT
 public:
+    // Form_Load: sized 640 x 480 and centred, the list filled, "Three teams"
+    // chosen and the first entry selected.
     explicit frmSelect(QWidget *parent = nullptr);
+    ~frmSelect() override;
+
+    QListWidget *lstQuestions = nullptr;
+    QLabel *lblScore = nullptr;
+    QComboBox *cmbScore = nullptr;
+    CaptionControl *vseButtons = nullptr;
+    CommandButton *cmdStart = nullptr;
+    CommandButton *cmdEditor = nullptr;
+    CommandButton *cmdHowToPlay = nullptr;
+    CaptionControl *vseImportExport = nullptr;
+    CommandButton *cmdExport = nullptr;
+    CommandButton *cmdImport = nullptr;
+    PictureBox picText;
+
+    // Fills the list afresh from both folders; no entry is selected after.
+    void PopulateQZ2();
+    // The full path of the file behind an entry.
+    QString GetEntryPath(const QListWidgetItem *entry) const;
+
+    void cmdStart_Click();
+    void cmdEditor_Click();
+    void cmdHowToPlay_Click();
+
+    // The screen open over the home screen, if any (for tests).
+    frmMain *board() const { return board_; }
+    QWidget *editor() const { return editor_; }
+    QWidget *help() const { return help_; }
 
 protected:
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
+
+private:
+    void createControls();
+    void createButtons();
+    void layOut();
+    QString documentsFolder() const;
+    QListWidgetItem *selectedEntry() const;
+    bool checkSelectedEntry();
+    void startBoard();
+    void comeBack();
+
+    QImage banner_;
+    QPointer<frmMain> board_;
+    QPointer<QWidget> editor_;
+    QPointer<QWidget> help_;
 };

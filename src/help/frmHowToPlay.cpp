@@ -1,0 +1,75 @@
+#include "frmHowToPlay.h"
+
+#include "HelpTexts.h"
+#include "board/Backdrop.h"
+#include "platform/CaptionControl.h"
+
+#include <QButtonGroup>
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QPainter>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScreen>
+
+frmHowToPlay::frmHowToPlay(QWidget *parent) : QWidget(parent)
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+    setWindowTitle(QStringLiteral("How To Play Quizzarr!"));
+    QFont arial(QStringLiteral("Arial"));
+    arial.setPointSizeF(11);
+    setFont(arial);
+
+    vseButtons = new CaptionControl(this);
+    vseButtons->setDesignSize(QSizeF(5, 1));
+    auto *group = new QButtonGroup(this);
+    const QStringList captions = HelpTopicCaptions();
+    for (int i = 0; i < captions.size(); ++i) {
+        auto *button = new QPushButton(captions[i]);
+        button->setCheckable(true);
+        group->addButton(button, i);
+        vseButtons->addChild(button, QRectF(i + 0.04, 0.08, 0.92, 0.84));
+        optHelp.append(button);
+    }
+    connect(group, &QButtonGroup::idClicked, this, &frmHowToPlay::optHelp_Click);
+
+    txtPlay = new QPlainTextEdit(this);
+    txtPlay->setReadOnly(true);
+    QFont text(QStringLiteral("Arial"));
+    text.setPointSizeF(13);
+    txtPlay->setFont(text);
+
+    resize(640, 480);
+    if (const QScreen *screen = QGuiApplication::primaryScreen())
+        move((screen->size().width() - width()) / 2, (screen->size().height() - height()) / 2);
+    optHelp_Click(0);
+}
+
+void frmHowToPlay::optHelp_Click(int Index)
+{
+    if (Index < 0 || Index >= optHelp.size())
+        return;
+    optHelp[Index]->setChecked(true);
+    txtPlay->setPlainText(HelpTopicText(Index));
+}
+
+void frmHowToPlay::paintEvent(QPaintEvent *)
+{
+    QPainter p(this);
+    PaintBackdrop(p, rect());
+}
+
+void frmHowToPlay::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    // The bar stays transparent, so the backdrop shows through it.
+    vseButtons->setGeometry(15, 15, width() - 30, 50);
+    vseButtons->refresh();
+    txtPlay->setGeometry(15, 15 + 50 + 15, width() - 30, height() - 45 - 50);
+}
+
+void frmHowToPlay::closeEvent(QCloseEvent *event)
+{
+    emit unloaded();
+    event->accept();
+}

@@ -1,0 +1,44 @@
+#include "QuestionListDelegate.h"
+
+#include <QAbstractItemModel>
+#include <QApplication>
+#include <QFontMetrics>
+#include <QPainter>
+
+int QuestionListDelegate::descriptionColumn(const QFont &font, const QAbstractItemModel *model, int width)
+{
+    const QFontMetrics fm(font);
+    int widest = 0;
+    for (int row = 0; row < model->rowCount(); ++row) {
+        const QString text = model->index(row, 0).data().toString();
+        widest = qMax(widest, fm.horizontalAdvance(text.section(QLatin1Char('\t'), 0, 0)));
+    }
+    return qMin(widest + fm.horizontalAdvance(QStringLiteral("MM")), width / 2);
+}
+
+void QuestionListDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
+                                 const QModelIndex &index) const
+{
+    QStyleOptionViewItem plain = option;
+    initStyleOption(&plain, index);
+    const QString text = plain.text;
+    plain.text.clear();
+    const QWidget *view = option.widget;
+    QStyle *style = view ? view->style() : QApplication::style();
+    style->drawControl(QStyle::CE_ItemViewItem, &plain, painter, view);
+
+    const QRect area = option.rect.adjusted(4, 0, -4, 0);
+    const int column = descriptionColumn(option.font, index.model(), area.width());
+    const QPalette::ColorRole role = option.state & QStyle::State_Selected ? QPalette::HighlightedText : QPalette::Text;
+    painter->save();
+    painter->setPen(option.palette.color(role));
+    const QFontMetrics fm(option.font);
+    const QString name = text.section(QLatin1Char('\t'), 0, 0);
+    const QString description = text.section(QLatin1Char('\t'), 1);
+    const QRect nameBox(area.left(), area.top(), column - 4, area.height());
+    const QRect descriptionBox(area.left() + column, area.top(), area.width() - column, area.height());
+    painter->drawText(nameBox, Qt::AlignVCenter | Qt::AlignLeft, fm.elidedText(name, Qt::ElideRight, nameBox.width()));
+    painter->drawText(descriptionBox, Qt::AlignVCenter | Qt::AlignLeft,
+                      fm.elidedText(description, Qt::ElideRight, descriptionBox.width()));
+    painter->restore();
+}

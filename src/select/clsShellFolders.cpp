@@ -1,0 +1,20 @@
+#include "clsShellFolders.h"
+
+#include "platform/ModuleFileName.h"
+#include "platform/SpecialFolders.h"
+
+QString clsShellFolders::GetSpecialFolderLocation(uintptr_t, int32_t CSIDL) const
+{
+    const QString path = TrimNull(SpecialFolders::path(CSIDL));
+    // Only a folder the system knows is worth a separator: an unknown one
+    // stays "", which every caller takes as "no such folder".
+    if (path.isEmpty())
+        return QString();
+    return ModuleFileName::withTrailingSeparator(path);
+}
+
+QString clsShellFolders::TrimNull(const QString &text)
+{
+    const qsizetype nul = text.indexOf(QChar(u'\0'));
+    return nul < 0 ? text : text.left(nul);
+}

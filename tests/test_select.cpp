@@ -1,0 +1,434 @@
+// The home screen: the question-set list from both folders, starting a game
+// with its messages and team labels, coming back, its layout, the special
+// folders, and the help screen.
+
+#include "FakeClock.h"
+#include "FakeSoundControl.h"
+#include "ScriptedMsgBox.h"
+#include "TestFolder.h"
+
+#include "board/ShadowLabel.h"
+#include "game/GameState.h"
+#include "game/frmMain.h"
+#include "help/HelpTexts.h"
+#include "help/frmHowToPlay.h"
+#include "platform/CaptionControl.h"
+#include "platform/CommandButton.h"
+#include "platform/ModuleFileName.h"
+#include "platform/SpecialFolders.h"
+#include "select/QuestionSetList.h"
+#include "select/SelectLayout.h"
+#include "select/clsShellFolders.h"
+#include "select/frmSelect.h"
+#include "shell/PictureLibrary.h"
+#include "shell/basDetectDevEnv.h"
+#include "shell/basPLOVQuzr.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QtTest>
+
+namespace {
+
+QByteArray playable(const QByteArray &description)
+{
+    return "[Round1]\r\nDescription=" + description + "\r\nCategory0=Rivers\r\n\r\n[Round1Category0]\r\n"
+           "Answer0=a\r\nQuestion0=q\r\n";
+}
+
+QStringList texts(const QListWidget *list)
+{
+    QStringList t;
+    for (int i = 0; i < list->count(); ++i)
+        t << list->item(i)->text();
+    return t;
+}
+
+} // namespace
+
+class TestSelect : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<TestFolder> program_;
+    std::unique_ptr<QTemporaryDir> documents_;
+    std::unique_ptr<ScriptedMsgBox> boxes_;
+    std::unique_ptr<FakeClock> clock_;
+    QPointer<frmSelect> home_;
+
+    QString docs() const { return documents_->path() + QLatin1Char('/'); }
+    void writeDoc(const QString &name, const QByteArray &bytes)
+    {
+        QFile f(docs() + name);
+        QVERIFY(f.open(QIODevice::WriteOnly));
+        f.write(bytes);
+    }
+
+    frmSelect *openHome()
+    {
+        home_ = new frmSelect;
+        home_->show();
+        return home_;
+    }
+
+    frmMain *board() const { return home_->board(); }
+
+    // Ends a game the host's way and lets the board go.
+    void quitGame()
+    {
+        QKeyEvent q(QEvent::KeyPress, Qt::Key_Q, Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier);
+        QCoreApplication::sendEvent(board(), &q);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+private slots:
+    void initTestCase() { QFont::insertSubstitution(QStringLiteral("Arial"), QStringLiteral("Liberation Sans")); }
+
+    void init()
+    {
+        program_ = std::make_unique<TestFolder>();
+        documents_ = std::make_unique<QTemporaryDir>();
+        SpecialFolders::overridePath(SpecialFolders::kDocuments, documents_->path());
+        boxes_ = std::make_unique<ScriptedMsgBox>();
+        clock_ = std::make_unique<FakeClock>();
+    }
+
+    void cleanup()
+    {
+        if (home_ && home_->board())
+            delete home_->board();
+        delete home_.data();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        clock_.reset();
+        boxes_.reset();
+        SpecialFolders::overridePath(SpecialFolders::kDocuments, QString());
+        documents_.reset();
+        program_.reset();
+        basPLOVQuzr::ShutdownLibraries();
+        ModuleFileName::overridePath(QString());
+        basDetectDevEnv::ForgetRunMode();
+    }
+
+    void listsSetsOfBothFoldersSortedWithoutCase()
+    {
+        program_->write(QStringLiteral("b.QZ2"), playable("Program b"));
+        program_->write(QStringLiteral("c.Qz2"), playable("See"));
+        program_->write(QStringLiteral("d.qz2.bak"), playable("backup"));
+        program_->write(QStringLiteral("e.qz"), playable("short"));
+        program_->write(QStringLiteral(".hidden.QZ2"), playable("hidden"));
+        program_->write(QStringLiteral("folder.QZ2/inside.QZ2"), playable("in a folder"));
+        program_->write(QStringLiteral("g.QZ2"), playable("-NONE-"));
+        program_->write(QStringLiteral("h.QZ2"), playable("-none-"));
+        program_->write(QStringLiteral("i.QZ2"), "[Round1]\r\nDescription=\r\n");
+        program_->write(QStringLiteral("j.QZ2"), playable(QByteArray(2500, 'x')));
+        program_->write(QStringLiteral("k.QZ2"), "no sections at all");
+        writeDoc(QStringLiteral("A.qz2"), playable("Documents A"));
+        writeDoc(QStringLiteral("b.QZ2"), playable("Documents b"));
+
+        openHome();
+        const QStringList shown = texts(home_->lstQuestions);
+        QCOMPARE(shown, QStringList({QStringLiteral("A.qz2\tDocuments A"), QStringLiteral("b.QZ2\tDocuments b"),
+                                     QStringLiteral("b.QZ2\tProgram b"), QStringLiteral("c.Qz2\tSee"),
+                                     QStringLiteral("h.QZ2\t-none-"), QStringLiteral("i.QZ2\t"),
+                                     QStringLiteral("j.QZ2\t") + QString(1999, QLatin1Char('x'))}));
+        // Each entry keeps its folder: the two b.QZ2 play their own files.
+        QCOMPARE(home_->GetEntryPath(home_->lstQuestions->item(0)), docs() + QStringLiteral("A.qz2"));
+        QCOMPARE(home_->GetEntryPath(home_->lstQuestions->item(1)), docs() + QStringLiteral("b.QZ2"));
+        QCOMPARE(home_->GetEntryPath(home_->lstQuestions->item(2)), program_->file(QStringLiteral("b.QZ2")));
+        // Loaded: three teams, the first entry selected, Start Game shown.
+        QCOMPARE(home_->lstQuestions->currentRow(), 0);
+        QCOMPARE(home_->cmbScore->currentText(), QStringLiteral("Three teams"));
+        QVERIFY(home_->cmdStart->isVisible());
+        // A refill leaves nothing selected.
+        home_->PopulateQZ2();
+        QVERIFY(home_->lstQuestions->selectedItems().isEmpty());
+    }
+
+    void emptyListHidesStartGame()
+    {
+        SpecialFolders::overridePath(SpecialFolders::kDocuments, QStringLiteral(""));
+        QCOMPARE(clsShellFolders().GetSpecialFolderLocation(0, SpecialFolders::kDocuments), QString());
+        openHome();
+        QCOMPARE(home_->lstQuestions->count(), 0);
+        QVERIFY(!home_->cmdStart->isVisible());
+        QVERIFY(home_->cmdEditor->isVisible() && home_->cmdHowToPlay->isVisible() && home_->cmdImport->isVisible());
+    }
+
+    void specialFoldersEndInASeparator()
+    {
+        SpecialFolders::overridePath(SpecialFolders::kDesktop, QStringLiteral("/home/host/Desktop"));
+        QCOMPARE(clsShellFolders().GetSpecialFolderLocation(0, 0), QStringLiteral("/home/host/Desktop/"));
+        SpecialFolders::overridePath(SpecialFolders::kDesktop, QStringLiteral("/"));
+        QCOMPARE(clsShellFolders().GetSpecialFolderLocation(0, 0), QStringLiteral("/"));
+        SpecialFolders::overridePath(SpecialFolders::kDesktop, QString());
+        QCOMPARE(clsShellFolders().GetSpecialFolderLocation(0, 38), QString()); // a number the game never asks
+        QVERIFY(clsShellFolders().GetSpecialFolderLocation(0, 0).endsWith(QLatin1Char('/')));
+    }
+
+    void startWithoutSelectionAsksForOne()
+    {
+        program_->write(QStringLiteral("a.QZ2"), playable("A"));
+        openHome();
+        home_->lstQuestions->clearSelection();
+        home_->cmdStart->click();
+        QCOMPARE(boxes_->shown.size(), 1);
+        QCOMPARE(boxes_->shown[0].text, QStringLiteral("Please select a question set to use before starting the game."));
+        QCOMPARE(boxes_->shown[0].style, MsgBoxStyle::Information);
+        QCOMPARE(boxes_->shown[0].caption, QStringLiteral("PLOV(tm) Quizzarr!"));
+        QVERIFY(!board());
+        QVERIFY(home_->isVisible());
+    }
+
+    void vanishedFilesLeaveTheList()
+    {
+        program_->write(QStringLiteral("a.QZ2"), playable("A"));
+        program_->write(QStringLiteral("b.QZ2"), playable("B"));
+        basPLOVQuzr::hPictureLib = PictureLibrary::load(QStringLiteral(QUIZZARR_PROGRAM_DIR "/PLOVQBmp.so"));
+        openHome();
+        QFile::remove(program_->file(QStringLiteral("a.QZ2")));
+        home_->cmdStart->click();
+        QVERIFY(boxes_->shown.isEmpty());
+        QCOMPARE(texts(home_->lstQuestions), QStringList({QStringLiteral("b.QZ2\tB")}));
+        QVERIFY(home_->lstQuestions->selectedItems().isEmpty());
+        QCOMPARE(basPLOVQuzr::QuestionFile, program_->file(QStringLiteral("a.QZ2")));
+
+        // The last one: the message, and the libraries go.
+        program_->write(QStringLiteral("b.QZ2"), "[Round1]\r\nDescription=-NONE-\r\n");
+        home_->lstQuestions->setCurrentRow(0);
+        home_->cmdStart->click();
+        QCOMPARE(boxes_->shown.size(), 1);
+        QCOMPARE(boxes_->shown[0].text, QStringLiteral("I'm sorry, but I am unable to locate any valid .QZ2 files."));
+        QCOMPARE(boxes_->shown[0].style, MsgBoxStyle::Critical);
+        QVERIFY(!basPLOVQuzr::hPictureLib);
+        QCOMPARE(home_->lstQuestions->count(), 0);
+        // Start Game stays until the next refill; pressing it asks again.
+        QVERIFY(home_->cmdStart->isVisible());
+        home_->cmdStart->click();
+        QCOMPARE(boxes_->shown.last().text, QStringLiteral("Please select a question set to use before starting the game."));
+        QVERIFY(home_->isVisible());
+    }
+
+    void startsTheGameWithTheChosenTeams_data()
+    {
+        QTest::addColumn<int>("teams");
+        QTest::newRow("no scoring") << 0;
+        QTest::newRow("one team") << 1;
+        QTest::newRow("ten teams") << 10;
+    }
+    void startsTheGameWithTheChosenTeams()
+    {
+        QFETCH(int, teams);
+        program_->write(QStringLiteral("a.QZ2"), playable("A"));
+        openHome();
+        basPLOVQuzr::Scores.fill(77);
+        basPLOVQuzr::Round = 4;
+        home_->cmbScore->setCurrentIndex(teams);
+        home_->cmdStart->click();
+
+        QVERIFY(board());
+        QVERIFY(!home_->isVisible());
+        QVERIFY(board()->isVisible());
+        QCOMPARE(int(board()->Teams), teams);
+        QCOMPARE(basPLOVQuzr::QuestionFile, program_->file(QStringLiteral("a.QZ2")));
+        QCOMPARE(basPLOVQuzr::Round, qint16(1));
+        QCOMPARE(basPLOVQuzr::Scores[9], 0);
+        QCOMPARE(board()->vseCategory[0]->caption(), QStringLiteral("Rivers"));
+        QCOMPARE(board()->lblTeam.size(), qMax(1, teams));
+        QCOMPARE(board()->lblTeam[0]->isVisible(), teams > 0);
+        for (int i = 0; i < board()->lblTeam.size(); ++i) {
+            QCOMPARE(board()->lblScore[i]->isVisible(), teams > 0);
+            QVERIFY(!board()->lblTeam2[i]->isVisible());
+        }
+        QVERIFY(boxes_->shown.isEmpty()); // no sound warning outside the game's own executable
+    }
+
+    void warnsAboutSoundsAndPlaysTheFanfare()
+    {
+        program_->write(QStringLiteral("a.QZ2"), playable("A"));
+        FakeSoundControl sound;
+        clock_->onAdvance = [&](int ms) { sound.advance(ms); };
+        ModuleFileName::overridePath(ModuleFileName::programFolder() + ModuleFileName::gameExecutableName());
+        basDetectDevEnv::ForgetRunMode();
+        openHome();
+        boxes_->whileShown = [this](const ShownBox &) { QVERIFY(!home_->isVisible()); };
+        home_->cmdStart->click();
+        QCOMPARE(boxes_->shown.size(), 1);
+        QCOMPARE(boxes_->shown[0].text,
+                 QStringLiteral("Please wait until all sounds playing have stopped, then click OK to start!"));
+        QCOMPARE(boxes_->shown[0].style, MsgBoxStyle::Exclamation);
+        const QStringList calls = sound.calls();
+        QCOMPARE(calls.mid(0, 4), QStringList({QStringLiteral("InitSound"), QStringLiteral("LoadSound 107"),
+                                               QStringLiteral("PlaySound 107"), QStringLiteral("UnloadSound 107")}));
+        QVERIFY(calls.contains(QStringLiteral("PlaySound 103"))); // then the round comes in
+        quitGame();
+        QVERIFY(home_->isVisible());
+        QVERIFY(sound.calls().contains(QStringLiteral("Shutdown")));
+    }
+
+    void secondGameAfterTenTeamsKeepsOnlyItsLabels()
+    {
+        program_->write(QStringLiteral("a.QZ2"), playable("A"));
+        openHome();
+        home_->cmbScore->setCurrentIndex(10);
+        home_->cmdStart->click();
+        QCOMPARE(board()->lblTeam.size(), 10);
+        quitGame();
+        QVERIFY(!board());
+        home_->cmbScore->setCurrentIndex(2);
+        home_->cmdStart->click();
+        QCOMPARE(board()->lblTeam.size(), 2);
+        QCOMPARE(board()->lblScore2.size(), 2);
+    }
+
+    void selectionAndTeamCountSurviveAGameAndTheHelp()
+    {
+        program_->write(QStringLiteral("a.QZ2"), playable("A"));
+        program_->write(QStringLiteral("b.QZ2"), playable("B"));
+        openHome();
+        home_->lstQuestions->setCurrentRow(1);
+        home_->cmbScore->setCurrentIndex(5);
+        home_->cmdStart->click();
+        QCOMPARE(basPLOVQuzr::QuestionFile, program_->file(QStringLiteral("b.QZ2")));
+        quitGame();
+        QVERIFY(home_->isVisible());
+        QCOMPARE(home_->lstQuestions->currentRow(), 1);
+        QVERIFY(home_->lstQuestions->item(1)->isSelected());
+        QCOMPARE(home_->cmbScore->currentIndex(), 5);
+
+        home_->cmdHowToPlay->click();
+        QVERIFY(!home_->isVisible());
+        QVERIFY(home_->help()->isVisible());
+        home_->help()->close();
+        QVERIFY(home_->isVisible());
+        QCOMPARE(home_->lstQuestions->currentRow(), 1);
+        QCOMPARE(home_->cmbScore->currentIndex(), 5);
+    }
+
+    void enterAndDoubleClickStart()
+    {
+        program_->write(QStringLiteral("a.QZ2"), playable("A"));
+        program_->write(QStringLiteral("b.QZ2"), playable("B"));
+        openHome();
+        home_->lstQuestions->setFocus();
+        QTest::keyClick(home_->lstQuestions, Qt::Key_Return);
+        QVERIFY(board());
+        QCOMPARE(basPLOVQuzr::QuestionFile, program_->file(QStringLiteral("a.QZ2")));
+        quitGame();
+        QListWidgetItem *second = home_->lstQuestions->item(1);
+        const QRect r = home_->lstQuestions->visualItemRect(second);
+        QTest::mouseClick(home_->lstQuestions->viewport(), Qt::LeftButton, Qt::NoModifier, r.center());
+        QTest::mouseDClick(home_->lstQuestions->viewport(), Qt::LeftButton, Qt::NoModifier, r.center());
+        QVERIFY(board());
+        QCOMPARE(basPLOVQuzr::QuestionFile, program_->file(QStringLiteral("b.QZ2")));
+    }
+
+    void editorButtonAsksWhatToEdit()
+    {
+        program_->write(QStringLiteral("a.QZ2"), playable("A"));
+        openHome();
+        boxes_->answers = {MsgBoxResult::Yes};
+        home_->cmdEditor->click();
+        QCOMPARE(boxes_->shown.size(), 1);
+        QCOMPARE(boxes_->shown[0].text,
+                 QStringLiteral("Click YES to edit a.QZ2, else click NO to create a new Question set."));
+        QCOMPARE(boxes_->shown[0].style, MsgBoxStyle::YesNo | MsgBoxStyle::Question);
+        QCOMPARE(boxes_->shown[0].caption, QStringLiteral("Question Editor/Creator"));
+        QVERIFY(!home_->isVisible());
+        QCOMPARE(home_->editor()->windowTitle(), QStringLiteral("Question Editor/Creator"));
+        QCOMPARE(home_->editor()->property("FileToLoad").toString(), program_->file(QStringLiteral("a.QZ2")));
+        home_->editor()->close();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(home_->isVisible());
+
+        boxes_->answers = {MsgBoxResult::No};
+        home_->lstQuestions->setCurrentRow(0);
+        home_->cmdEditor->click();
+        QCOMPARE(home_->editor()->property("FileToLoad").toString(), QString());
+        home_->editor()->close();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+
+        home_->lstQuestions->clearSelection();
+        home_->cmdEditor->click();
+        QCOMPARE(boxes_->shown.size(), 2); // nothing selected: no question
+        QCOMPARE(home_->editor()->property("FileToLoad").toString(), QString());
+        home_->editor()->close();
+    }
+
+    void layoutAt640By480()
+    {
+        basPLOVQuzr::hPictureLib = PictureLibrary::load(QStringLiteral(QUIZZARR_PROGRAM_DIR "/PLOVQBmp.so"));
+        openHome();
+        QCOMPARE(home_->size(), QSize(640, 480));
+        const int H = 480, C = home_->cmbScore->height();
+        const QRect list = home_->lstQuestions->geometry();
+        QCOMPARE(list.top(), 96 + 15); // below the banner's band
+        QCOMPARE(list.left(), 15);
+        QCOMPARE(H - (list.bottom() + 1), 105 + C);
+        QCOMPARE(H - (home_->cmbScore->geometry().bottom() + 1), 100);
+        QCOMPARE(home_->vseButtons->geometry(), QRect(15, H - 70, 610, 55));
+        QCOMPARE(home_->vseImportExport->geometry(), QRect(640 - 90, list.top(), 75, list.height()));
+        QVERIFY(!list.intersects(home_->vseImportExport->geometry()));
+        QVERIFY(!home_->cmbScore->geometry().intersects(home_->vseButtons->geometry()));
+        QCOMPARE(home_->cmbScore->x(), home_->lblScore->geometry().right() + 1 + 4);
+        // The buttons keep their design places in their row.
+        QCOMPARE(home_->cmdStart->geometry(), QRect(0, 0, qRound(2250 * 610 / 7332.0), 55));
+        QVERIFY(home_->cmdHowToPlay->geometry().right() < 610);
+        QVERIFY(home_->cmdImport->geometry().top() > home_->cmdExport->geometry().bottom());
+        // A longer caption moves the team count to the right by as much.
+        const SelectLayout shortLabel = LayOutSelectScreen(QSizeF(640, 480), 96, 24, 100, QSizeF(120, 24));
+        const SelectLayout longLabel = LayOutSelectScreen(QSizeF(640, 480), 96, 24, 140, QSizeF(120, 24));
+        QCOMPARE(longLabel.scoreCombo.left() - shortLabel.scoreCombo.left(), 40.0);
+    }
+
+    void closingTheHomeScreenReleasesTheLibraries()
+    {
+        basPLOVQuzr::hPictureLib = PictureLibrary::load(QStringLiteral(QUIZZARR_PROGRAM_DIR "/PLOVQBmp.so"));
+        openHome();
+        home_->close();
+        QVERIFY(!basPLOVQuzr::hPictureLib);
+    }
+
+    void helpShowsTheChosenTopic()
+    {
+        std::unique_ptr<frmHowToPlay> help(new frmHowToPlay);
+        help->setAttribute(Qt::WA_DeleteOnClose, false);
+        help->show();
+        QCOMPARE(help->windowTitle(), QStringLiteral("How To Play Quizzarr!"));
+        QCOMPARE(help->size(), QSize(640, 480));
+        auto shown = [&] { return help->txtPlay->toPlainText(); };
+        auto expected = [](int i) { return HelpTopicText(i).replace(QStringLiteral("\r\n"), QStringLiteral("\n")); };
+        QCOMPARE(shown(), expected(0));
+        QTest::mouseClick(help->optHelp[4], Qt::LeftButton);
+        QCOMPARE(shown(), expected(4));
+        QTest::mouseClick(help->optHelp[0], Qt::LeftButton);
+        QCOMPARE(shown(), expected(0)); // replaced, nothing added
+        help->optHelp_Click(7);
+        QCOMPARE(shown(), expected(0));
+        QStringList captions;
+        for (QPushButton *b : help->optHelp)
+            captions << b->text();
+        QCOMPARE(captions, QStringList({QStringLiteral("Starting"), QStringLiteral("Playing"),
+                                        QStringLiteral("Special Keys"), QStringLiteral("Scoring"),
+                                        QStringLiteral("Editing")}));
+        help->resize(900, 700);
+        QCOMPARE(help->vseButtons->geometry(), QRect(15, 15, 870, 50));
+        QCOMPARE(help->txtPlay->geometry(), QRect(15, 80, 870, 700 - 95));
+    }
+
+    void helpTextsStandAsWritten()
+    {
+        QCOMPARE(HelpTopicText(0).split(QStringLiteral("\r\n\r\n")).size(), 3);
+        QVERIFY(HelpTopicText(1).startsWith(QStringLiteral("In order to display an answer, click on the dollar amount.")));
+        QVERIFY(HelpTopicText(2).endsWith(QStringLiteral(
+            "Pressing SHIFT, ALT, CTRL and Q will prematurely end the game and take you back to the file selection screen.")));
+        QVERIFY(HelpTopicText(3).contains(QStringLiteral("ad nauseum. Press 0 to add the point value to team 10.\r\n\r\n")));
+        QVERIFY(HelpTopicText(4).contains(QStringLiteral("the new QZ2 files. \r\n\r\nTo migrate")));
+        QVERIFY(!HelpTopicText(4).endsWith(QStringLiteral("\r\n")));
+        QCOMPARE(HelpTopicText(5), QString());
+    }
+};
+
+QTEST_MAIN(TestSelect)
+#include "test_select.moc"
