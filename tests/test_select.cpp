@@ -4,6 +4,7 @@
 
 #include "FakeClock.h"
 #include "FakeSoundControl.h"
+#include "ScriptedFileDialog.h"
 #include "ScriptedMsgBox.h"
 #include "TestFolder.h"
 
@@ -12,6 +13,7 @@
 #include "game/frmMain.h"
 #include "help/HelpTexts.h"
 #include "help/frmHowToPlay.h"
+#include "questions/frmEditor.h"
 #include "platform/CaptionControl.h"
 #include "platform/CommandButton.h"
 #include "platform/ModuleFileName.h"
@@ -25,6 +27,7 @@
 #include "shell/basPLOVQuzr.h"
 
 #include <QComboBox>
+#include <QLineEdit>
 #include <QLabel>
 #include <QListWidget>
 #include <QPlainTextEdit>
@@ -56,6 +59,7 @@ class TestSelect : public QObject {
     std::unique_ptr<QTemporaryDir> documents_;
     std::unique_ptr<ScriptedMsgBox> boxes_;
     std::unique_ptr<FakeClock> clock_;
+    std::unique_ptr<ScriptedFileDialog> dialogs_;
     QPointer<frmSelect> home_;
 
     QString docs() const { return documents_->path() + QLatin1Char('/'); }
@@ -93,6 +97,7 @@ private slots:
         SpecialFolders::overridePath(SpecialFolders::kDocuments, documents_->path());
         boxes_ = std::make_unique<ScriptedMsgBox>();
         clock_ = std::make_unique<FakeClock>();
+        dialogs_ = std::make_unique<ScriptedFileDialog>();
     }
 
     void cleanup()
@@ -102,6 +107,7 @@ private slots:
         delete home_.data();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         clock_.reset();
+        dialogs_.reset();
         boxes_.reset();
         SpecialFolders::overridePath(SpecialFolders::kDocuments, QString());
         documents_.reset();
@@ -337,7 +343,7 @@ private slots:
         QCOMPARE(boxes_->shown[0].caption, QStringLiteral("Question Editor/Creator"));
         QVERIFY(!home_->isVisible());
         QCOMPARE(home_->editor()->windowTitle(), QStringLiteral("Question Editor/Creator"));
-        QCOMPARE(home_->editor()->property("FileToLoad").toString(), program_->file(QStringLiteral("a.QZ2")));
+        QCOMPARE(static_cast<frmEditor *>(home_->editor())->FileToLoad, program_->file(QStringLiteral("a.QZ2")));
         home_->editor()->close();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QVERIFY(home_->isVisible());
@@ -345,14 +351,14 @@ private slots:
         boxes_->answers = {MsgBoxResult::No};
         home_->lstQuestions->setCurrentRow(0);
         home_->cmdEditor->click();
-        QCOMPARE(home_->editor()->property("FileToLoad").toString(), QString());
+        QCOMPARE(static_cast<frmEditor *>(home_->editor())->FileToLoad, QString());
         home_->editor()->close();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 
         home_->lstQuestions->clearSelection();
         home_->cmdEditor->click();
         QCOMPARE(boxes_->shown.size(), 2); // nothing selected: no question
-        QCOMPARE(home_->editor()->property("FileToLoad").toString(), QString());
+        QCOMPARE(static_cast<frmEditor *>(home_->editor())->FileToLoad, QString());
         home_->editor()->close();
     }
 
@@ -388,6 +394,103 @@ private slots:
         openHome();
         home_->close();
         QVERIFY(!basPLOVQuzr::hPictureLib);
+    }
+
+    void exportCopiesTheSelectedSetWhole()
+    {
+        const QByteArray bytes = playable("Exported \xe9");
+        program_->write(QStringLiteral("a.QZ2"), bytes);
+        openHome();
+        SpecialFolders::overridePath(SpecialFolders::kDesktop, docs());
+        QTemporaryDir target;
+        dialogs_->choose(target.filePath(QStringLiteral("copy")));
+        home_->mnuExportAnother->trigger();
+        const FileDialogRequest &r = dialogs_->requests.last();
+        QVERIFY(r.save);
+        QCOMPARE(r.title, QStringLiteral("Export Question File To"));
+        QCOMPARE(r.fileName, QStringLiteral("a.QZ2"));
+        QCOMPARE(r.initialDir, docs()); // the desktop
+        QCOMPARE(r.filters[0].first, QStringLiteral("PLOV(tm) Quizzarr! QA Files (*.QZ2)"));
+        QCOMPARE(r.flags, quint32((0x282A0A & ~0x200u) | 0x4));
+        QFile copy(target.filePath(QStringLiteral("copy"))); // no extension added
+        QVERIFY(copy.open(QIODevice::ReadOnly));
+        QCOMPARE(copy.readAll(), bytes);
+        QVERIFY(boxes_->shown.isEmpty());
+        SpecialFolders::overridePath(SpecialFolders::kDesktop, QString());
+    }
+
+    void failedExportTellsAndDamagesNothing()
+    {
+        program_->write(QStringLiteral("a.QZ2"), playable("A"));
+        openHome();
+        const QString own = program_->file(QStringLiteral("a.QZ2"));
+        dialogs_->choose(own);
+        home_->mnuExportAnother->trigger();
+        QCOMPARE(boxes_->shown.size(), 1);
+        QVERIFY(boxes_->shown[0].text.startsWith(QStringLiteral("Export File Failure\r\n")));
+        QCOMPARE(boxes_->shown[0].style, 0);
+        QFile f(own);
+        QVERIFY(f.open(QIODevice::ReadOnly));
+        QCOMPARE(f.readAll(), playable("A"));
+        dialogs_->choose(docs() + QStringLiteral("missing/folder/a.QZ2"));
+        home_->mnuExportAnother->trigger();
+        QCOMPARE(boxes_->shown.last().text, QStringLiteral("Export File Failure\r\nNo such file or directory"));
+        // Nothing selected: no dialog at all.
+        home_->lstQuestions->clearSelection();
+        const int asked = int(dialogs_->requests.size());
+        home_->mnuExportFloppy->trigger();
+        QCOMPARE(int(dialogs_->requests.size()), asked);
+    }
+
+    void importCopiesIntoDocumentsAndListsAfresh()
+    {
+        program_->write(QStringLiteral("a.QZ2"), playable("A"));
+        writeDoc(QStringLiteral("b.QZ2"), playable("Old b"));
+        QTemporaryDir media;
+        SpecialFolders::overrideRemovableMedia(media.path());
+        QFile source(media.filePath(QStringLiteral("b.QZ2")));
+        QVERIFY(source.open(QIODevice::WriteOnly));
+        source.write(playable("New b"));
+        source.close();
+        openHome();
+        dialogs_->choose(source.fileName());
+        home_->mnuImportFloppy->trigger();
+        const FileDialogRequest &r = dialogs_->requests.last();
+        QVERIFY(!r.save);
+        QCOMPARE(r.title, QStringLiteral("Select Question File To Import"));
+        QCOMPARE(r.initialDir, media.path());
+        QCOMPARE(r.flags & 0x200u, 0u);
+        QVERIFY(boxes_->shown.isEmpty()); // replaced without a question
+        QCOMPARE(texts(home_->lstQuestions), QStringList({QStringLiteral("a.QZ2\tA"), QStringLiteral("b.QZ2\tNew b")}));
+        QVERIFY(home_->lstQuestions->selectedItems().isEmpty());
+        // A failed copy tells, and the list is filled again all the same.
+        QFile::remove(docs() + QStringLiteral("b.QZ2"));
+        dialogs_->choose(media.filePath(QStringLiteral("gone.QZ2")));
+        home_->mnuImportAnother->trigger();
+        QCOMPARE(boxes_->shown.last().text, QStringLiteral("Import File Failure\r\nNo such file or directory"));
+        QCOMPARE(texts(home_->lstQuestions), QStringList({QStringLiteral("a.QZ2\tA")}));
+        // Cancelled: nothing changes, the selection included.
+        home_->lstQuestions->setCurrentRow(0);
+        dialogs_->cancel();
+        home_->mnuImportAnother->trigger();
+        QCOMPARE(home_->lstQuestions->currentRow(), 0);
+        SpecialFolders::overrideRemovableMedia(QString());
+    }
+
+    void editorSavesANewSetThatTheListThenShows()
+    {
+        openHome();
+        QCOMPARE(home_->lstQuestions->count(), 0);
+        home_->cmdEditor->click();
+        auto *editor = static_cast<frmEditor *>(home_->editor());
+        QVERIFY(editor->isVisible());
+        editor->txtDesc->setText(QStringLiteral("Written in the editor"));
+        dialogs_->choose(docs() + QStringLiteral("Mine"));
+        editor->mnuSave->trigger();
+        editor->mnuExit->trigger();
+        QVERIFY(home_->isVisible());
+        QCOMPARE(texts(home_->lstQuestions), QStringList({QStringLiteral("Mine.QZ2\tWritten in the editor")}));
+        QVERIFY(home_->cmdStart->isVisible());
     }
 
     void helpShowsTheChosenTopic()

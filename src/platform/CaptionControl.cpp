@@ -62,7 +62,19 @@ void CaptionControl::setDesignSize(QSizeF size)
 void CaptionControl::addChild(QWidget *child, QRectF designRect)
 {
     child->setParent(this);
-    children_.push_back({child, designRect});
+    children_.push_back({child, designRect, child->font().pointSizeF()});
+    placeChildren();
+}
+
+void CaptionControl::setRowLayout(bool row)
+{
+    rowLayout_ = row;
+    placeChildren();
+}
+
+void CaptionControl::setScaleFonts(bool scale)
+{
+    scaleFonts_ = scale;
     placeChildren();
 }
 
@@ -82,6 +94,18 @@ void CaptionControl::refresh()
 
 void CaptionControl::placeChildren()
 {
+    if (rowLayout_) {
+        std::vector<QWidget *> shown;
+        for (const Child &c : children_) {
+            if (!c.widget->isHidden())
+                shown.push_back(c.widget);
+        }
+        for (size_t k = 0; k < shown.size(); ++k) {
+            const int left = int(k * width() / shown.size()), right = int((k + 1) * width() / shown.size());
+            shown[k]->setGeometry(left, 0, right - left, height());
+        }
+        return;
+    }
     if (designSize_.isEmpty())
         return;
     const qreal sx = width() / designSize_.width();
@@ -91,6 +115,11 @@ void CaptionControl::placeChildren()
         const QRectF r(c.design.x() * sx, c.design.y() * sy, c.design.width() * sx, c.design.height() * sy);
         c.widget->setGeometry(QRect(qRound(r.x()), qRound(r.y()), qRound(r.right()) - qRound(r.x()),
                                     qRound(r.bottom()) - qRound(r.y())));
+        if (scaleFonts_ && c.designPoints > 0 && sx > 0 && sy > 0) {
+            QFont f = c.widget->font();
+            f.setPointSizeF(qMax<qreal>(1.0, c.designPoints * qMin(sx, sy)));
+            c.widget->setFont(f);
+        }
     }
 }
 

@@ -44,8 +44,16 @@ public:
     void setDesignSize(QSizeF size);
     void addChild(QWidget *child, QRectF designRect);
     void setChildDesignRect(QWidget *child, QRectF designRect);
-    // Lays the children out again (after design rectangles changed).
+    // Lays the children out again (after design rectangles changed, or
+    // children shown or hidden).
     void refresh();
+
+    // A row: the visible children side by side in the order they were
+    // added, sharing the width equally, whatever their design rectangles.
+    void setRowLayout(bool row);
+    // Children's fonts grow and shrink with the container (from the font
+    // each had when it was added, at the design size).
+    void setScaleFonts(bool scale);
 
     // While true (during an animation) the picture is stretched without
     // smoothing, which is many times faster on a big screen; turning it
@@ -85,9 +93,12 @@ private:
     QPixmap composed_;
     bool composedValid_ = false;
     QSizeF designSize_;
+    bool rowLayout_ = false;
+    bool scaleFonts_ = false;
     struct Child {
         QWidget *widget;
         QRectF design;
+        qreal designPoints;
     };
     std::vector<Child> children_;
 };

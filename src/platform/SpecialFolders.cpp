@@ -1,5 +1,6 @@
 #include "SpecialFolders.h"
 
+#include <QDir>
 #include <QHash>
 #include <QStandardPaths>
 
@@ -10,6 +11,8 @@ QHash<int, QString> &overrides()
     static QHash<int, QString> fakes;
     return fakes;
 }
+
+QString removableOverride;
 
 } // namespace
 
@@ -25,6 +28,25 @@ QString path(int csidl)
     case kDocuments: return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     default: return QString();
     }
+}
+
+QString removableMedia()
+{
+    if (!removableOverride.isNull())
+        return removableOverride;
+    const QString user = qEnvironmentVariable("USER", qEnvironmentVariable("LOGNAME"));
+    for (const QString &root : {QStringLiteral("/media/"), QStringLiteral("/run/media/")}) {
+        const QDir mounts(root + user);
+        const QStringList disks = mounts.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
+        if (!user.isEmpty() && !disks.isEmpty())
+            return mounts.filePath(disks.first());
+    }
+    return QDir::homePath();
+}
+
+void overrideRemovableMedia(const QString &folder)
+{
+    removableOverride = folder;
 }
 
 void overridePath(int csidl, const QString &folder)

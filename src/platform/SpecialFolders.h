@@ -14,7 +14,13 @@ constexpr int kDocuments = 5;
 // the number is not one of the two.
 QString path(int csidl);
 
-// Test seam: a fake path for a folder number ("" drops the fake).
+// Where a removable disk shows up for this user (the first folder under
+// /media/<user> or /run/media/<user>), or the home folder when none is in.
+QString removableMedia();
+
+// Test seams: a fake path for a folder number, or for the removable disk
+// (a null text drops the fake).
 void overridePath(int csidl, const QString &folder);
+void overrideRemovableMedia(const QString &folder);
 
 } // namespace SpecialFolders

@@ -8,6 +8,7 @@
 #include "game/GameState.h"
 #include "game/frmMain.h"
 #include "help/frmHowToPlay.h"
+#include "questions/frmEditor.h"
 #include "platform/CaptionControl.h"
 #include "platform/CommandButton.h"
 #include "platform/ModuleFileName.h"
@@ -77,6 +78,7 @@ void frmSelect::createControls()
     cmbScore->setFont(arial(9.75));
     cmbScore->addItems(kTeamCounts);
     createButtons();
+    createMenus();
     // Keyboard order: the list first, then Start Game, then How To Play.
     setTabOrder(lstQuestions, cmdStart);
     setTabOrder(cmdStart, cmdHowToPlay);
@@ -216,16 +218,17 @@ void frmSelect::cmdEditor_Click()
             fileToLoad = GetEntryPath(entry);
     }
     hide();
-    // The editor's own screen comes later; meanwhile a bare window stands
-    // in for it, and closing it comes back here.
-    auto *editor = new QWidget;
-    editor->setAttribute(Qt::WA_DeleteOnClose);
-    editor->setWindowTitle(QStringLiteral("Question Editor/Creator"));
-    editor->setProperty("FileToLoad", fileToLoad);
-    editor->resize(640, 480);
-    connect(editor, &QObject::destroyed, this, &frmSelect::comeBack);
+    auto *editor = new frmEditor;
+    editor->FileToLoad = fileToLoad;
+    connect(editor, &frmEditor::unloaded, this, &frmSelect::editorClosed);
     editor_ = editor;
     editor->show();
+}
+
+void frmSelect::editorClosed()
+{
+    comeBack();
+    PopulateQZ2();
 }
 
 void frmSelect::cmdHowToPlay_Click()

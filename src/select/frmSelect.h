@@ -15,6 +15,8 @@ class QComboBox;
 class QLabel;
 class QListWidget;
 class QListWidgetItem;
+class QAction;
+class QMenu;
 
 class frmSelect : public QWidget {
     Q_OBJECT
@@ -45,6 +47,18 @@ public:
     void cmdEditor_Click();
     void cmdHowToPlay_Click();
 
+    // Export and import: a whole-file copy of the selected set to a place
+    // the host chooses, or of a chosen file into the documents folder. An
+    // empty InitialFolder starts the dialog on the desktop.
+    QMenu *mnuExport = nullptr;
+    QMenu *mnuImport = nullptr;
+    QAction *mnuExportFloppy = nullptr;
+    QAction *mnuExportAnother = nullptr;
+    QAction *mnuImportFloppy = nullptr;
+    QAction *mnuImportAnother = nullptr;
+    void ExportQuestionSet(const QString &InitialFolder);
+    void ImportQuestionSet(const QString &InitialFolder);
+
     // The screen open over the home screen, if any (for tests).
     frmMain *board() const { return board_; }
     QWidget *editor() const { return editor_; }
@@ -59,6 +73,8 @@ protected:
 private:
     void createControls();
     void createButtons();
+    void createMenus();
+    void editorClosed();
     void layOut();
     QString documentsFolder() const;
     QListWidgetItem *selectedEntry() const;

@@ -1,0 +1,119 @@
+#include "FileDialog.h"
+
+#include "questions/clsOpenSaveDlgFlags.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+
+namespace {
+
+using Flags = clsOpenSaveDlgFlags;
+
+// "*.QZ2" -> "*.[Qq][Zz]2": the game's files come in any letter case.
+QString anyCase(const QString &pattern)
+{
+    QString out;
+    for (const QChar c : pattern) {
+        if (c.isLetter() && c.toLower() != c.toUpper())
+            out += QLatin1Char('[') + c.toUpper() + c.toLower() + QLatin1Char(']');
+        else
+            out += c;
+    }
+    return out;
+}
+
+// Qt reads a filter's patterns from its last parentheses; the description
+// shows alone (HideNameFilterDetails), as the game wrote it.
+QStringList nameFilters(const FileDialogRequest &r)
+{
+    QStringList filters;
+    for (const auto &[description, patterns] : r.filters)
+        filters << description + QStringLiteral(" (") + CaseInsensitivePatterns(patterns).join(QLatin1Char(' ')) +
+                       QLatin1Char(')');
+    return filters;
+}
+
+class QtFileDialog final : public FileDialogHandler {
+public:
+    FileDialogResult run(const FileDialogRequest &r) override
+    {
+        QFileDialog dialog(r.owner);
+        dialog.setOption(QFileDialog::DontUseNativeDialog);
+        dialog.setAcceptMode(r.save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+        dialog.setFileMode(fileMode(r));
+        dialog.setOption(QFileDialog::DontConfirmOverwrite, !(r.flags & Flags::OFN_OVERWRITEPROMPT));
+        if (!r.title.isEmpty())
+            dialog.setWindowTitle(r.title);
+        if (!r.initialDir.isEmpty())
+            dialog.setDirectory(r.initialDir);
+        const QStringList filters = nameFilters(r);
+        if (!filters.isEmpty()) {
+            dialog.setOption(QFileDialog::HideNameFilterDetails);
+            dialog.setNameFilters(filters);
+            dialog.selectNameFilter(filters.value(qMax(0, r.filterIndex - 1)));
+        }
+        if (!r.defaultExtension.isEmpty())
+            dialog.setDefaultSuffix(r.defaultExtension);
+        if (!r.fileName.isEmpty())
+            dialog.selectFile(r.fileName);
+        for (;;) {
+            if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+                return {};
+            const QString path = dialog.selectedFiles().first();
+            if (acceptable(r, path, &dialog))
+                return {true, path, int(dialog.nameFilters().indexOf(dialog.selectedNameFilter())) + 1};
+        }
+    }
+
+private:
+    static QFileDialog::FileMode fileMode(const FileDialogRequest &r)
+    {
+        if (r.save)
+            return QFileDialog::AnyFile;
+        if (r.flags & Flags::OFN_ALLOWMULTISELECT)
+            return QFileDialog::ExistingFiles;
+        return r.flags & Flags::OFN_FILEMUSTEXIST ? QFileDialog::ExistingFile : QFileDialog::AnyFile;
+    }
+
+    // The checks the common dialogs made before letting a name through.
+    static bool acceptable(const FileDialogRequest &r, const QString &path, QWidget *dialog)
+    {
+        const QFileInfo file(path);
+        if (r.save && (r.flags & Flags::OFN_NOREADONLYRETURN) && file.exists() && !file.isWritable()) {
+            QMessageBox::warning(dialog, dialog->windowTitle(),
+                                 path + QStringLiteral("\nThis file is set to read-only.\nTry again with a different file name."));
+            return false;
+        }
+        if (!r.save && !file.exists() && (r.flags & Flags::OFN_CREATEPROMPT) &&
+            !(r.flags & Flags::OFN_FILEMUSTEXIST)) {
+            return QMessageBox::question(dialog, dialog->windowTitle(),
+                                         path + QStringLiteral("\nThis file does not exist.\nDo you want to create it?")) ==
+                   QMessageBox::Yes;
+        }
+        return true;
+    }
+};
+
+FileDialogHandler *installed = nullptr;
+
+} // namespace
+
+QStringList CaseInsensitivePatterns(const QString &patterns)
+{
+    QStringList out;
+    for (const QString &p : patterns.split(QLatin1Char(';'), Qt::SkipEmptyParts))
+        out << anyCase(p.trimmed());
+    return out;
+}
+
+FileDialogResult RunFileDialog(const FileDialogRequest &request)
+{
+    static QtFileDialog real;
+    return (installed ? *installed : real).run(request);
+}
+
+void installFileDialogHandler(FileDialogHandler *handler)
+{
+    installed = handler;
+}

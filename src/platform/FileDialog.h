@@ -1,0 +1,44 @@
+// The system's file dialogs for opening and saving, behind a seam: the
+// dialog wrapper describes what it wants, a handler shows it. Tests install
+// a handler that answers from a script.
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+#include <utility>
+
+class QWidget;
+
+struct FileDialogRequest {
+    bool save = false;
+    QWidget *owner = nullptr;
+    QString title;             // "" = the dialog's own title
+    QString initialDir;        // "" = the dialog's own choice
+    QString fileName;          // proposed name
+    QList<std::pair<QString, QString>> filters; // description, patterns ("*.QZ2;*.QZA")
+    int filterIndex = 0;       // 1-based; 0 = the first
+    quint32 flags = 0;         // the common dialog flag bits
+    QString defaultExtension;  // "" = none
+};
+
+struct FileDialogResult {
+    bool accepted = false;
+    QString path;
+    int filterIndex = 0;
+};
+
+class FileDialogHandler {
+public:
+    virtual ~FileDialogHandler() = default;
+    virtual FileDialogResult run(const FileDialogRequest &request) = 0;
+};
+
+FileDialogResult RunFileDialog(const FileDialogRequest &request);
+
+// Installs a handler (not owned); nullptr goes back to the real dialogs.
+void installFileDialogHandler(FileDialogHandler *handler);
+
+// A pattern list ("*.QZ2;*.QZA") as the dialog matches it: any letter case.
+QStringList CaseInsensitivePatterns(const QString &patterns);

@@ -1,0 +1,215 @@
+#include "frmEditor.h"
+
+#include "clsOpenSaveDlg.h"
+#include "board/Backdrop.h"
+#include "platform/CaptionControl.h"
+#include "platform/ModuleFileName.h"
+#include "platform/MsgBox.h"
+#include "platform/SpecialFolders.h"
+#include "select/clsShellFolders.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QPainter>
+#include <QPushButton>
+#include <QScreen>
+
+namespace {
+
+// The editor's canvas: the backdrop behind the fields, and the main
+// container over all of it, which scales the fields with the window.
+class Backdrop final : public QWidget {
+public:
+    using QWidget::QWidget;
+    CaptionControl *main = nullptr;
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter p(this);
+        PaintBackdrop(p, rect());
+    }
+    void resizeEvent(QResizeEvent *) override
+    {
+        if (main) {
+            main->setGeometry(rect());
+            main->refresh();
+        }
+    }
+};
+
+} // namespace
+
+frmEditor::frmEditor(QWidget *parent) : QMainWindow(parent)
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+    setWindowTitle(QStringLiteral("Question Editor/Creator"));
+    auto *canvas = new Backdrop;
+    setCentralWidget(canvas);
+    vseMain = new CaptionControl(canvas);
+    canvas->main = vseMain;
+    createFields();
+    createRoundsAndCategories();
+    createMenu();
+    connectFields();
+    arrangeTabOrder();
+}
+
+void frmEditor::arrangeTabOrder()
+{
+    // Top to bottom, each answer followed by its question.
+    QList<QWidget *> order{txtDesc, txtSecs, cmbRounds};
+    order += {optRound[0], optRound[1], optRound[2], cmbCategories};
+    for (QPushButton *b : optCategory)
+        order << b;
+    order << txtName;
+    for (int j = 0; j < 5; ++j)
+        order << txtAnswer[size_t(j)] << txtQuestion[size_t(j)];
+    for (qsizetype i = 1; i < order.size(); ++i)
+        QWidget::setTabOrder(order[i - 1], order[i]);
+}
+
+void frmEditor::createMenu()
+{
+    mnuNew = menuBar()->addAction(QStringLiteral("&New"), this, &frmEditor::mnuNew_Click);
+    mnuOpen = menuBar()->addAction(QStringLiteral("&Open..."), this, &frmEditor::mnuOpen_Click);
+    mnuSave = menuBar()->addAction(QStringLiteral("&Save As..."), this, &frmEditor::mnuSave_Click);
+    mnuExit = menuBar()->addAction(QStringLiteral("&Exit"), this, &frmEditor::mnuExit_Click);
+}
+
+void frmEditor::showEvent(QShowEvent *event)
+{
+    QMainWindow::showEvent(event);
+    if (!loaded_) {
+        loaded_ = true;
+        Form_Load();
+    }
+}
+
+void frmEditor::Form_Load()
+{
+    resize(640, 480);
+    if (const QScreen *screen = QGuiApplication::primaryScreen())
+        move((screen->size().width() - width()) / 2, (screen->size().height() - height()) / 2);
+    cmbRounds->setCurrentIndex(1);
+    cmbCategories->setCurrentIndex(5);
+    Modified.clear();
+    mnuNew_Click();
+    if (!FileToLoad.isEmpty())
+        LoadQuestionSet(FileToLoad);
+}
+
+bool frmEditor::modifiedCheck(const QString &caption)
+{
+    if (Modified.isEmpty())
+        return true;
+    switch (MsgBox(QStringLiteral("Would you like to save your work?"),
+                   MsgBoxStyle::YesNoCancel | MsgBoxStyle::Question, caption)) {
+    case MsgBoxResult::Yes:
+        mnuSave_Click();
+        return Modified.isEmpty(); // cancelled or failed: stop
+    case MsgBoxResult::No:
+        return true;
+    default:
+        return false;
+    }
+}
+
+void frmEditor::mnuNew_Click()
+{
+    if (!modifiedCheck(QStringLiteral("New")))
+        return;
+    newSet();
+}
+
+QString frmEditor::questionFolder() const
+{
+    const QString documents = clsShellFolders().GetSpecialFolderLocation(uintptr_t(winId()), SpecialFolders::kDocuments);
+    return ModuleFileName::withTrailingSeparator(documents.isEmpty() ? ModuleFileName::programFolder() : documents);
+}
+
+void frmEditor::mnuOpen_Click()
+{
+    if (!modifiedCheck(QStringLiteral("Open")))
+        return;
+    clsOpenSaveDlg dialog;
+    dialog.setFileName(QString());
+    dialog.setFilter(QStringLiteral("PLOV(tm) Quizzarr! QA Files (*.QZ2;*.QZA)|*.QZ2;*.QZA"));
+    dialog.Flags().setExplorer(true);
+    dialog.Flags().setHideReadOnly(true);
+    dialog.Flags().setLongNames(true);
+    dialog.Flags().setNoChangeDir(true);
+    dialog.Flags().setFileMustExist(true);
+    dialog.Flags().setAllowMultiSelect(false);
+    dialog.setInitialDir(questionFolder());
+    dialog.setHwndOwner(uintptr_t(winId()));
+    dialog.setWindowTitle(QStringLiteral("Open"));
+    if (!dialog.ShowOpen())
+        return;
+    LoadQuestionSet(dialog.FileName());
+}
+
+void frmEditor::mnuSave_Click()
+{
+    // A set opened from a file is proposed under its own name and folder.
+    QString folder, proposed;
+    const qsizetype slash = CurrentFileBase.lastIndexOf(QLatin1Char('/'));
+    if (slash >= 0) {
+        folder = ModuleFileName::withTrailingSeparator(CurrentFileBase.left(slash));
+        proposed = CurrentFileBase.mid(slash + 1);
+    } else {
+        folder = questionFolder();
+        proposed = CurrentFileBase;
+    }
+    clsOpenSaveDlg dialog;
+    dialog.setFileName(proposed);
+    dialog.setInitialDir(folder);
+    dialog.setFilter(QStringLiteral("QZ2 Files (*.QZ2)|*.QZ2"));
+    dialog.Flags().setExplorer(true);
+    dialog.Flags().setHideReadOnly(true);
+    dialog.Flags().setLongNames(true);
+    dialog.Flags().setNoChangeDir(true);
+    dialog.Flags().setNoReadOnlyReturn(true);
+    dialog.Flags().setOverwritePrompt(true);
+    dialog.setHwndOwner(uintptr_t(winId()));
+    if (!dialog.ShowSaveAs())
+        return;
+    const FileError error = WriteQuestionSet(questionSet, dialog.FileName());
+    if (error) {
+        MsgBox(QStringLiteral("Save file error #:") + QString::number(error.number) + QStringLiteral("\r\n\r\n") +
+                   error.description,
+               MsgBoxStyle::OKOnly | MsgBoxStyle::Critical, QStringLiteral("Save As..."));
+        return;
+    }
+    Modified.clear();
+}
+
+void frmEditor::mnuExit_Click()
+{
+    close();
+}
+
+void frmEditor::closeEvent(QCloseEvent *event)
+{
+    if (!modifiedCheck(QStringLiteral("Exit"))) {
+        event->ignore();
+        return;
+    }
+    emit unloaded();
+    event->accept();
+}
+
+void frmEditor::LoadQuestionSet(const QString &FileName)
+{
+    Modified.clear();
+    newSet();
+    CurrentFileBase = FileBaseOf(FileName);
+    questionSet = ::LoadQuestionSet(FileName);
+    showSet();
+    Modified.clear();
+}

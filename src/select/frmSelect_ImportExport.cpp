@@ -1,0 +1,95 @@
+// Import and export: whole-file copies of question sets to and from a
+// place the host chooses, through the open and save dialogs.
+
+#include "frmSelect.h"
+
+#include "QuestionSetList.h"
+#include "clsShellFolders.h"
+#include "platform/CommandButton.h"
+#include "platform/ModuleFileName.h"
+#include "platform/MsgBox.h"
+#include "platform/SpecialFolders.h"
+#include "platform/WriteFileReplacing.h"
+#include "questions/clsOpenSaveDlg.h"
+
+#include <QCursor>
+#include <QDir>
+#include <QListWidget>
+#include <QMenu>
+
+namespace {
+
+// The dialog both ways: the wrapper's defaults, one file, the game's files.
+void prepare(clsOpenSaveDlg &dialog, uintptr_t owner, const QString &title, const QString &folder)
+{
+    dialog.setHwndOwner(owner);
+    dialog.setWindowTitle(title);
+    dialog.setFilter(QStringLiteral("PLOV(tm) Quizzarr! QA Files (*.QZ2)|*.QZ2"));
+    dialog.setInitialDir(folder);
+    dialog.Flags().setAllowMultiSelect(false);
+    dialog.Flags().setExplorer(true);
+    dialog.Flags().setHideReadOnly(true);
+    dialog.Flags().setLongNames(true);
+    dialog.Flags().setOverwritePrompt(true);
+    dialog.Flags().setPathMustExist(true);
+}
+
+} // namespace
+
+void frmSelect::createMenus()
+{
+    // Pop-up menus only: they never stand on a menu bar.
+    mnuExport = new QMenu(QStringLiteral("Export"), this);
+    mnuExportFloppy = mnuExport->addAction(QStringLiteral("To a floppy disk (A:)..."));
+    mnuExportAnother = mnuExport->addAction(QStringLiteral("To another drive..."));
+    mnuImport = new QMenu(QStringLiteral("Import"), this);
+    mnuImportFloppy = mnuImport->addAction(QStringLiteral("From a floppy disk (A:)..."));
+    mnuImportAnother = mnuImport->addAction(QStringLiteral("From another drive..."));
+    // Where the old game said "A:\", a removable disk of this computer.
+    connect(mnuExportFloppy, &QAction::triggered, this, [this] { ExportQuestionSet(SpecialFolders::removableMedia()); });
+    connect(mnuExportAnother, &QAction::triggered, this, [this] { ExportQuestionSet(QString()); });
+    connect(mnuImportFloppy, &QAction::triggered, this, [this] { ImportQuestionSet(SpecialFolders::removableMedia()); });
+    connect(mnuImportAnother, &QAction::triggered, this, [this] { ImportQuestionSet(QString()); });
+    connect(cmdExport, &QPushButton::clicked, this, [this] { mnuExport->popup(QCursor::pos()); });
+    connect(cmdImport, &QPushButton::clicked, this, [this] { mnuImport->popup(QCursor::pos()); });
+}
+
+void frmSelect::ExportQuestionSet(const QString &InitialFolder)
+{
+    const QListWidgetItem *entry = lstQuestions->selectedItems().value(0);
+    if (!entry)
+        return;
+    const QString source = GetEntryPath(entry);
+    clsOpenSaveDlg dialog;
+    const QString folder = InitialFolder.isEmpty()
+                               ? clsShellFolders().GetSpecialFolderLocation(uintptr_t(winId()), SpecialFolders::kDesktop)
+                               : InitialFolder;
+    prepare(dialog, uintptr_t(winId()), QStringLiteral("Export Question File To"), folder);
+    dialog.setFileName(EntryFileName(entry->text()));
+    if (!dialog.ShowSaveAs())
+        return;
+    const FileError error = CopyFileReplacing(source, dialog.FileName());
+    if (error)
+        MsgBox(QStringLiteral("Export File Failure\r\n") + error.description, MsgBoxStyle::OKOnly, applicationTitle());
+}
+
+void frmSelect::ImportQuestionSet(const QString &InitialFolder)
+{
+    const QString documents =
+        clsShellFolders().GetSpecialFolderLocation(uintptr_t(winId()), SpecialFolders::kDocuments);
+    if (documents.isEmpty())
+        return;
+    clsOpenSaveDlg dialog;
+    const QString folder = InitialFolder.isEmpty()
+                               ? clsShellFolders().GetSpecialFolderLocation(uintptr_t(winId()), SpecialFolders::kDesktop)
+                               : InitialFolder;
+    prepare(dialog, uintptr_t(winId()), QStringLiteral("Select Question File To Import"), folder);
+    if (!dialog.ShowOpen())
+        return;
+    // A fresh account may have no documents folder yet: the import makes it.
+    QDir().mkpath(documents);
+    const FileError error = CopyFileReplacing(dialog.FileName(), documents + dialog.FileNameExtOnly());
+    if (error)
+        MsgBox(QStringLiteral("Import File Failure\r\n") + error.description, MsgBoxStyle::OKOnly, applicationTitle());
+    PopulateQZ2();
+}

@@ -1,0 +1,473 @@
+// The question editor and the open/save dialog wrapper: the wrapper's
+// rules, editor flows with scripted dialogs and message boxes, and the exact
+// bytes the editor writes.
+
+#include "ScriptedFileDialog.h"
+#include "ScriptedMsgBox.h"
+
+#include "platform/CaptionControl.h"
+#include "platform/SpecialFolders.h"
+#include "questions/QuestionSet.h"
+#include "questions/clsOpenSaveDlg.h"
+#include "questions/frmEditor.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QtTest>
+
+class TestEditor : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<QTemporaryDir> dir_;
+    std::unique_ptr<ScriptedMsgBox> boxes_;
+    std::unique_ptr<ScriptedFileDialog> dialogs_;
+    QPointer<frmEditor> editor_;
+
+    QString path(const QString &name) const { return dir_->filePath(name); }
+
+    QByteArray read(const QString &file) const
+    {
+        QFile f(file);
+        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+    }
+
+    frmEditor *open(const QString &fileToLoad = QString())
+    {
+        editor_ = new frmEditor;
+        editor_->setAttribute(Qt::WA_DeleteOnClose, false);
+        editor_->FileToLoad = fileToLoad;
+        editor_->show();
+        return editor_;
+    }
+
+    // What a host types replaces the field's text.
+    void type(QLineEdit *field, const QString &text)
+    {
+        field->setFocus();
+        field->selectAll();
+        QTest::keyClicks(field, text);
+    }
+
+    QString writeSample()
+    {
+        QuestionSet s;
+        s.Description = QStringLiteral("Sample");
+        s.Timer = 25;
+        for (int r = 0; r < 3; ++r) {
+            for (int c = 0; c < 6; ++c) {
+                CategoryEntry &e = s.Categories[size_t(r)][size_t(c)];
+                e.Title = QStringLiteral("T%1%2").arg(r).arg(c);
+                for (int j = 0; j < 5; ++j) {
+                    e.Answer[size_t(j)] = QStringLiteral("A%1%2%3").arg(r).arg(c).arg(j);
+                    e.Question[size_t(j)] = QStringLiteral("Q%1%2%3").arg(r).arg(c).arg(j);
+                }
+            }
+        }
+        const QString file = path(QStringLiteral("Sets/Quiz.QZ2"));
+        QDir().mkpath(path(QStringLiteral("Sets")));
+        if (WriteQuestionSet(s, file))
+            qFatal("cannot write the sample set");
+        return file;
+    }
+
+private slots:
+    void initTestCase() { QFont::insertSubstitution(QStringLiteral("Arial"), QStringLiteral("Liberation Sans")); }
+
+    void init()
+    {
+        dir_ = std::make_unique<QTemporaryDir>();
+        SpecialFolders::overridePath(SpecialFolders::kDocuments, path(QStringLiteral("Documents")));
+        QDir().mkpath(path(QStringLiteral("Documents")));
+        boxes_ = std::make_unique<ScriptedMsgBox>();
+        dialogs_ = std::make_unique<ScriptedFileDialog>();
+    }
+
+    void cleanup()
+    {
+        delete editor_.data();
+        dialogs_.reset();
+        boxes_.reset();
+        SpecialFolders::overridePath(SpecialFolders::kDocuments, QString());
+        dir_.reset();
+    }
+
+    // ------------------------------------------------------------ the wrapper
+
+    void freshWrapperHasItsDefaults()
+    {
+        clsOpenSaveDlg d;
+        QCOMPARE(d.Filter(), QStringLiteral("All Files|*.*"));
+        QCOMPARE(d.FileName(), QString());
+        QCOMPARE(d.FilterIndex(), 0);
+        QCOMPARE(d.Flags().Value(), quint32(0x282A0A));
+        QCOMPARE(clsOpenSaveDlg::kRecordSize, quint32(76));
+        d.setFilterIndex(-3);
+        QCOMPARE(d.FilterIndex(), 0);
+    }
+
+    void splitsThePathIntoParts_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QString>("nameExt");
+        QTest::addColumn<QString>("nameOnly");
+        QTest::addColumn<QString>("ext");
+        QTest::newRow("full path") << "/home/host/Sets/Quiz.QZ2" << "/home/host/Sets/" << "Quiz.QZ2" << "Quiz" << "QZ2";
+        QTest::newRow("drive letter") << "A:Quiz.QZ2" << "A:/" << "Quiz.QZ2" << "Quiz" << "QZ2";
+        QTest::newRow("name alone") << "Quiz" << "" << "Quiz" << "Quiz" << "";
+        QTest::newRow("dotted folder") << "/a.b/Quiz" << "/a.b/" << "Quiz" << "Quiz" << "";
+    }
+    void splitsThePathIntoParts()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, path);
+        QFETCH(QString, nameExt);
+        QFETCH(QString, nameOnly);
+        QFETCH(QString, ext);
+        clsOpenSaveDlg d;
+        d.setFileName(name);
+        QCOMPARE(d.PathOnly(), path);
+        QCOMPARE(d.FileNameExtOnly(), nameExt);
+        QCOMPARE(d.FileNameOnly(), nameOnly);
+        QCOMPARE(d.ExtOnly(), ext);
+    }
+
+    void keepsFilterAndNameByTheBufferRules()
+    {
+        clsOpenSaveDlg d;
+        d.setFilter(QStringLiteral("QZ2 Files (*.QZ2)|*.QZ2"));
+        QCOMPARE(d.Filter(), QStringLiteral("QZ2 Files (*.QZ2)|*.QZ2"));
+        d.setFilter(QStringLiteral("A|*.a|B|*.b|"));
+        QCOMPARE(d.Filter(), QStringLiteral("A|*.a|B|*.b"));
+        d.setFilter(QStringLiteral("no bars here"));
+        QCOMPARE(d.Filter(), QString());
+        d.setFileName(QString(259, QLatin1Char('n')));
+        QCOMPARE(d.FileName().size(), 259);
+        d.setFileName(QString(260, QLatin1Char('n')));
+        QCOMPARE(d.FileName(), QString()); // no room for the terminator
+    }
+
+    void flagPropertiesSetTheirBits()
+    {
+        clsOpenSaveDlgFlags f;
+        QCOMPARE(f.Value(), quint32(0));
+        const QList<std::pair<void (clsOpenSaveDlgFlags::*)(bool), quint32>> bits{
+            {&clsOpenSaveDlgFlags::setAllowMultiSelect, 0x200}, {&clsOpenSaveDlgFlags::setCreatePrompt, 0x2000},
+            {&clsOpenSaveDlgFlags::setExplorer, 0x80000},      {&clsOpenSaveDlgFlags::setHideReadOnly, 0x4},
+            {&clsOpenSaveDlgFlags::setLongNames, 0x200000},    {&clsOpenSaveDlgFlags::setNoChangeDir, 0x8},
+            {&clsOpenSaveDlgFlags::setNoDereferenceLinks, 0x100000}, {&clsOpenSaveDlgFlags::setNoLongNames, 0x40000},
+            {&clsOpenSaveDlgFlags::setNoNetworkButton, 0x20000}, {&clsOpenSaveDlgFlags::setNoReadOnlyReturn, 0x8000},
+            {&clsOpenSaveDlgFlags::setNoTestFileCreate, 0x10000}, {&clsOpenSaveDlgFlags::setNoValidate, 0x100},
+            {&clsOpenSaveDlgFlags::setOverwritePrompt, 0x2},   {&clsOpenSaveDlgFlags::setPathMustExist, 0x800},
+            {&clsOpenSaveDlgFlags::setReadOnly, 0x1},          {&clsOpenSaveDlgFlags::setShareAware, 0x4000}};
+        for (const auto &[setter, bit] : bits) {
+            (f.*setter)(true);
+            QCOMPARE(f.Value(), bit);
+            (f.*setter)(false);
+            QCOMPARE(f.Value(), quint32(0));
+        }
+        f.setFileMustExist(true);
+        QCOMPARE(f.Value(), quint32(0x1800));
+        f.setFileMustExist(false);
+        QCOMPARE(f.Value(), quint32(0x800)); // the path must still exist
+        QVERIFY(!f.ExtensionDifferent());
+    }
+
+    void dialogsReceiveTheSettingsAndHandBackThePath()
+    {
+        clsOpenSaveDlg d;
+        d.setFilter(QStringLiteral("PLOV(tm) Quizzarr! QA Files (*.QZ2;*.QZA)|*.QZ2;*.QZA"));
+        d.setInitialDir(QStringLiteral("/sets/"));
+        d.setWindowTitle(QStringLiteral("Open"));
+        d.setFileName(QStringLiteral("Quiz"));
+        d.Flags().setFileMustExist(true);
+        dialogs_->choose(QStringLiteral("/sets/Chosen.QZA"));
+        QVERIFY(d.ShowOpen());
+        const FileDialogRequest &r = dialogs_->requests.last();
+        QVERIFY(!r.save);
+        QCOMPARE(r.title, QStringLiteral("Open"));
+        QCOMPARE(r.initialDir, QStringLiteral("/sets/"));
+        QCOMPARE(r.fileName, QStringLiteral("Quiz"));
+        QCOMPARE(r.filters.size(), 1);
+        QCOMPARE(r.filters[0].first, QStringLiteral("PLOV(tm) Quizzarr! QA Files (*.QZ2;*.QZA)"));
+        QCOMPARE(r.flags, quint32(0x282A0A | 0x1000));
+        QCOMPARE(d.FileName(), QStringLiteral("/sets/Chosen.QZA"));
+        QCOMPARE(d.FilterIndex(), 1);
+        QCOMPARE(CaseInsensitivePatterns(r.filters[0].second),
+                 QStringList({QStringLiteral("*.[Qq][Zz]2"), QStringLiteral("*.[Qq][Zz][Aa]")}));
+        // A cancelled dialog keeps the name.
+        dialogs_->cancel();
+        QVERIFY(!d.ShowSaveAs());
+        QVERIFY(dialogs_->requests.last().save);
+        QCOMPARE(d.FileName(), QStringLiteral("/sets/Chosen.QZA"));
+    }
+
+    // ------------------------------------------------------------- the editor
+
+    void opensOnANewEmptySet()
+    {
+        open();
+        QCOMPARE(editor_->windowTitle(), QStringLiteral("Question Editor/Creator"));
+        QCOMPARE(editor_->size(), QSize(640, 480));
+        QCOMPARE(editor_->questionSet.RoundCount, qint16(2));
+        QCOMPARE(editor_->questionSet.CategoryCount[0], qint16(6));
+        QCOMPARE(editor_->questionSet.Timer, qint16(20));
+        QCOMPARE(editor_->txtSecs->text(), QStringLiteral("20"));
+        QCOMPARE(editor_->cmbRounds->currentText(), QStringLiteral("2"));
+        QCOMPARE(editor_->cmbCategories->currentText(), QStringLiteral("6"));
+        QVERIFY(editor_->optRound[0]->isChecked() && editor_->optCategory[0]->isChecked());
+        QCOMPARE(editor_->Modified, QString());
+        QSignalSpy gone(editor_.data(), &frmEditor::unloaded);
+        editor_->mnuExit->trigger();
+        QCOMPARE(gone.size(), 1);
+        QVERIFY(boxes_->shown.isEmpty());
+        QVERIFY(!editor_->isVisible());
+    }
+
+    void newAsksBeforeDroppingChanges()
+    {
+        open();
+        type(editor_->txtName, QStringLiteral("R"));
+        QCOMPARE(editor_->Modified, QStringLiteral("X"));
+        boxes_->answers = {MsgBoxResult::Cancel};
+        editor_->mnuNew->trigger();
+        QCOMPARE(boxes_->shown.size(), 1);
+        QCOMPARE(boxes_->shown[0].text, QStringLiteral("Would you like to save your work?"));
+        QCOMPARE(boxes_->shown[0].caption, QStringLiteral("New"));
+        QCOMPARE(boxes_->shown[0].style, MsgBoxStyle::YesNoCancel | MsgBoxStyle::Question);
+        QCOMPARE(editor_->txtName->text(), QStringLiteral("R"));
+        // Yes, then a cancelled save dialog: the set stays as it is.
+        boxes_->answers = {MsgBoxResult::Yes};
+        dialogs_->cancel();
+        editor_->mnuNew->trigger();
+        QCOMPARE(dialogs_->requests.size(), 1);
+        QCOMPARE(editor_->questionSet.Categories[0][0].Title, QStringLiteral("R"));
+        QCOMPARE(editor_->Modified, QStringLiteral("X"));
+        // No: everything goes, the final's title too.
+        editor_->optRound[2]->click();
+        type(editor_->txtName, QStringLiteral("Final title"));
+        boxes_->answers = {MsgBoxResult::No};
+        editor_->mnuNew->trigger();
+        QCOMPARE(editor_->questionSet.Categories[0][0].Title, QString());
+        QCOMPARE(editor_->questionSet.Categories[2][0].Title, QString());
+        QCOMPARE(editor_->txtName->text(), QString());
+        QVERIFY(editor_->optRound[0]->isChecked());
+        QCOMPARE(editor_->Modified, QString());
+    }
+
+    void showingAnotherCategoryOfAnOpenedSetCountsAsAChange()
+    {
+        open(writeSample());
+        QCOMPARE(editor_->txtDesc->text(), QStringLiteral("Sample"));
+        QCOMPARE(editor_->txtSecs->text(), QStringLiteral("25"));
+        QCOMPARE(editor_->txtName->text(), QStringLiteral("T00"));
+        QCOMPARE(editor_->Modified, QString());
+        editor_->optCategory[3]->click();
+        QCOMPARE(editor_->txtAnswer[2]->text(), QStringLiteral("A032"));
+        QCOMPARE(editor_->Modified, QStringLiteral("X"));
+        boxes_->answers = {MsgBoxResult::Cancel};
+        editor_->close();
+        QCOMPARE(boxes_->shown.size(), 1);
+        QCOMPARE(boxes_->shown[0].caption, QStringLiteral("Exit"));
+        QVERIFY(editor_->isVisible()); // Cancel keeps the editor open
+    }
+
+    void loweredCountsHideTextsWithoutClearingThem()
+    {
+        open(writeSample());
+        editor_->optRound[1]->click();
+        QCOMPARE(editor_->txtName->text(), QStringLiteral("T10"));
+        editor_->cmbRounds->setCurrentIndex(0);
+        QVERIFY(editor_->optRound[1]->isHidden());
+        QVERIFY(editor_->optRound[0]->isChecked());
+        editor_->cmbCategories->setCurrentIndex(3);
+        QVERIFY(editor_->optCategory[4]->isHidden() && !editor_->optCategory[3]->isHidden());
+        dialogs_->choose(path(QStringLiteral("Small")));
+        editor_->mnuSave->trigger();
+        const QByteArray bytes = read(path(QStringLiteral("Small.QZ2")));
+        QVERIFY(!bytes.contains("[Round2]"));
+        QVERIFY(!bytes.contains("Category4"));
+        // Raised again: the old texts are back.
+        editor_->cmbRounds->setCurrentIndex(1);
+        editor_->cmbCategories->setCurrentIndex(5);
+        editor_->optCategory[5]->click();
+        QCOMPARE(editor_->txtName->text(), QStringLiteral("T05"));
+        editor_->optRound[1]->click();
+        QCOMPARE(editor_->txtName->text(), QStringLiteral("T10"));
+        QCOMPARE(editor_->txtQuestion[4]->text(), QStringLiteral("Q104"));
+    }
+
+    void finalShowsOnePairAndNoCategories()
+    {
+        open(writeSample());
+        editor_->optRound[2]->click();
+        QCOMPARE(editor_->txtName->text(), QStringLiteral("T20"));
+        QVERIFY(!editor_->txtAnswer[0]->isHidden() && !editor_->txtQuestion[0]->isHidden());
+        for (int j = 1; j < 5; ++j)
+            QVERIFY(editor_->txtAnswer[size_t(j)]->isHidden() && editor_->txtQuestion[size_t(j)]->isHidden());
+        QVERIFY(!editor_->cmbCategories->isEnabled());
+        QVERIFY(editor_->vseCategories->isHidden());
+        QCOMPARE(editor_->cmbCategories->currentIndex(), -1);
+        editor_->optRound[0]->click();
+        QVERIFY(editor_->cmbCategories->isEnabled());
+        QVERIFY(!editor_->txtAnswer[4]->isHidden());
+        QCOMPARE(editor_->cmbCategories->currentIndex(), 5);
+    }
+
+    void secondsFieldTakesDigitsAndCorrectsOnLeaving_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("shown");
+        QTest::newRow("7 stays") << "7" << "7";
+        QTest::newRow("3 becomes 20") << "3" << "20";
+        QTest::newRow("75 becomes 20") << "75" << "20";
+        QTest::newRow("empty becomes 20") << "" << "20";
+        QTest::newRow("letters are dropped") << "4x5" << "45";
+        QTest::newRow("two characters at most") << "123" << "12";
+    }
+    void secondsFieldTakesDigitsAndCorrectsOnLeaving()
+    {
+        QFETCH(QString, typed);
+        QFETCH(QString, shown);
+        open();
+        editor_->txtSecs->setFocus();
+        editor_->txtSecs->clear();
+        QTest::keyClicks(editor_->txtSecs, typed);
+        QFocusEvent out(QEvent::FocusOut);
+        QCoreApplication::sendEvent(editor_->txtSecs, &out);
+        QCOMPARE(editor_->txtSecs->text(), shown);
+        QCOMPARE(int(editor_->questionSet.Timer), shown.toInt());
+    }
+
+    void saveAsWritesTheFieldAsItStands()
+    {
+        open();
+        editor_->txtSecs->setFocus();
+        editor_->txtSecs->clear();
+        QTest::keyClicks(editor_->txtSecs, QStringLiteral("3"));
+        dialogs_->choose(path(QStringLiteral("Short")));
+        editor_->mnuSave->trigger(); // a menu command takes no focus
+        QVERIFY(read(path(QStringLiteral("Short.QZ2"))).contains("\r\nTimer=3\r\n"));
+    }
+
+    void writesExactlyWhatWasTyped()
+    {
+        open();
+        type(editor_->txtDesc, QStringLiteral("Typed set"));
+        editor_->cmbRounds->setCurrentIndex(0);
+        editor_->cmbCategories->setCurrentIndex(1);
+        type(editor_->txtName, QStringLiteral("Birds"));
+        type(editor_->txtAnswer[0], QStringLiteral("It has a red breast."));
+        type(editor_->txtQuestion[0], QStringLiteral("What is a robin?"));
+        editor_->optCategory[1]->click();
+        type(editor_->txtName, QStringLiteral("Trees"));
+        type(editor_->txtQuestion[4], QStringLiteral("What is an oak?"));
+        editor_->optRound[2]->click();
+        type(editor_->txtName, QStringLiteral("Seas"));
+        type(editor_->txtAnswer[0], QStringLiteral("The largest = the Pacific"));
+        type(editor_->txtQuestion[0], QStringLiteral("What is the ocean?"));
+        dialogs_->choose(path(QStringLiteral("Typed.qz2")));
+        editor_->mnuSave->trigger();
+        QCOMPARE(editor_->Modified, QString());
+        QCOMPARE(read(path(QStringLiteral("Typed.qz2"))),
+                 QByteArray("[Round1]\r\nDescription=Typed set\r\nTimer=20\r\nCategory0=Birds\r\nCategory1=Trees\r\n"
+                            "\r\n[Round1Category0]\r\nAnswer0=It has a red breast.\r\nQuestion0=What is a robin?\r\n"
+                            "Answer1=\r\nQuestion1=\r\nAnswer2=\r\nQuestion2=\r\nAnswer3=\r\nQuestion3=\r\n"
+                            "Answer4=\r\nQuestion4=\r\n"
+                            "\r\n[Round1Category1]\r\nAnswer0=\r\nQuestion0=\r\nAnswer1=\r\nQuestion1=\r\n"
+                            "Answer2=\r\nQuestion2=\r\nAnswer3=\r\nQuestion3=\r\nAnswer4=\r\nQuestion4=What is an oak?\r\n"
+                            "\r\n[Final]\r\nCategory=Seas\r\nAnswer=The largest = the Pacific\r\n"
+                            "Question=What is the ocean?\r\n"));
+    }
+
+    void saveAsProposesTheOpenedNameAndFolder()
+    {
+        const QString quiz = writeSample();
+        open(quiz);
+        editor_->optCategory[1]->click();
+        dialogs_->choose(quiz.chopped(4)); // accepting the proposal: "Quiz"
+        editor_->mnuSave->trigger();
+        const FileDialogRequest &r = dialogs_->requests.last();
+        QVERIFY(r.save);
+        QCOMPARE(r.fileName, QStringLiteral("Quiz"));
+        QCOMPARE(r.initialDir, path(QStringLiteral("Sets/")));
+        QCOMPARE(r.title, QString());
+        QCOMPARE(r.filters[0].first, QStringLiteral("QZ2 Files (*.QZ2)"));
+        QCOMPARE(r.flags & 0x8002u, 0x8002u); // no read-only return, overwrite prompt
+        QVERIFY(QFile::exists(quiz));
+        QVERIFY(!QFile::exists(quiz.chopped(4)));
+        QCOMPARE(editor_->Modified, QString());
+        // A new set: an empty name in the documents folder, before and after.
+        boxes_->answers = {MsgBoxResult::No};
+        editor_->mnuNew->trigger();
+        dialogs_->choose(path(QStringLiteral("Documents/Fresh")));
+        editor_->mnuSave->trigger();
+        QCOMPARE(dialogs_->requests.last().fileName, QString());
+        QCOMPARE(dialogs_->requests.last().initialDir, path(QStringLiteral("Documents/")));
+        dialogs_->cancel();
+        editor_->mnuSave->trigger();
+        QCOMPARE(dialogs_->requests.last().fileName, QString());
+    }
+
+    void openShowsTheDialogAndLoadsLegacyFiles()
+    {
+        const QString legacy = path(QStringLiteral("Old.QZA"));
+        QFile f(legacy);
+        QVERIFY(f.open(QIODevice::WriteOnly));
+        f.write("[Round1]\r\nDescription=Old\r\nCategory0=Birds\r\n\r\n[Round1Category0]\r\n"
+                "Answer0=What is a robin?\r\nQuestion0=It has a red breast.\r\n");
+        f.close();
+        open();
+        dialogs_->choose(legacy);
+        editor_->mnuOpen->trigger();
+        const FileDialogRequest &r = dialogs_->requests.last();
+        QCOMPARE(r.title, QStringLiteral("Open"));
+        QCOMPARE(r.filters[0].second, QStringLiteral("*.QZ2;*.QZA"));
+        QCOMPARE(r.initialDir, path(QStringLiteral("Documents/")));
+        QCOMPARE(r.flags & 0x1800u, 0x1800u);
+        QCOMPARE(r.flags & 0x200u, 0u);
+        QCOMPARE(editor_->txtAnswer[0]->text(), QStringLiteral("It has a red breast."));
+        QCOMPARE(editor_->CurrentFileBase, path(QStringLiteral("Old")));
+        dialogs_->choose(path(QStringLiteral("Old")));
+        editor_->mnuSave->trigger();
+        QVERIFY(read(path(QStringLiteral("Old.QZ2"))).contains("Answer0=It has a red breast.\r\n"));
+        QVERIFY(read(legacy).contains("Question0=It has a red breast."));
+    }
+
+    void failedSaveShowsTheErrorAndKeepsTheSetModified()
+    {
+        open();
+        type(editor_->txtDesc, QStringLiteral("Unsaved"));
+        QDir().mkpath(path(QStringLiteral("Locked")));
+        QFile::setPermissions(path(QStringLiteral("Locked")), QFileDevice::ReadOwner | QFileDevice::ExeOwner);
+        dialogs_->choose(path(QStringLiteral("Locked/Set")));
+        editor_->mnuSave->trigger();
+        QCOMPARE(boxes_->shown.size(), 1);
+        QCOMPARE(boxes_->shown[0].text, QStringLiteral("Save file error #:13\r\n\r\nPermission denied"));
+        QCOMPARE(boxes_->shown[0].caption, QStringLiteral("Save As..."));
+        QCOMPARE(boxes_->shown[0].style, MsgBoxStyle::Critical);
+        QCOMPARE(editor_->Modified, QStringLiteral("X"));
+        QFile::setPermissions(path(QStringLiteral("Locked")),
+                              QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+        boxes_->answers = {MsgBoxResult::Cancel};
+        editor_->close();
+        QCOMPARE(boxes_->shown.last().text, QStringLiteral("Would you like to save your work?"));
+    }
+
+    void scalesWithTheWindow()
+    {
+        open();
+        const int small = editor_->txtAnswer[0]->width();
+        const qreal font = editor_->txtAnswer[0]->font().pointSizeF();
+        editor_->resize(1280, 960);
+        QTRY_VERIFY(editor_->txtAnswer[0]->width() > 1.8 * small);
+        QVERIFY(editor_->txtAnswer[0]->font().pointSizeF() > 1.8 * font);
+        QVERIFY(editor_->txtQuestion[4]->geometry().bottom() < editor_->centralWidget()->height());
+        QVERIFY(editor_->txtSecs->geometry().right() < editor_->centralWidget()->width());
+    }
+};
+
+QTEST_MAIN(TestEditor)
+#include "test_editor.moc"
