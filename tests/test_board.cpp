@@ -176,17 +176,6 @@ private slots:
         QVERIFY(qAbs(board->vseCategories->y() - (g.y0 + 5)) <= 1);
     }
 
-    void secondGameKeepsOnlyItsOwnTeamLabels()
-    {
-        std::unique_ptr<frmMain> board(newBoard());
-        board->PrepareTeamLabels(10);
-        board->PrepareTeamLabels(2);
-        QCOMPARE(board->lblTeam.size(), 2);
-        QCOMPARE(board->lblScore.size(), 2);
-        QCOMPARE(board->lblTeam2.size(), 2);
-        QCOMPARE(board->lblScore2.size(), 2);
-    }
-
     void backdropRunsBlackBlueBlack()
     {
         const QImage row = BackdropRow(800);
