@@ -153,6 +153,29 @@ private slots:
         QVERIFY(status(12345) != 1);
     }
 
+    void clipPlayingAtShutdownPlaysOn()
+    {
+        auto load = api<int32_t (*)(int32_t, int32_t *)>("PLOV_LoadSound");
+        auto status = api<int32_t (*)(int32_t)>("PLOV_GetSoundStatus");
+        QCOMPARE(api<int32_t (*)(uintptr_t)>("PLOV_InitSound")(0), 0);
+        int32_t first = 0, second = 0;
+        QCOMPARE(load(106, &first), 0);
+        api<void (*)(int32_t *)>("PLOV_UnloadSound")(&first);
+        QCOMPARE(load(106, &second), 0);
+        QVERIFY(second != first); // a new clip never takes an old handle
+        api<void (*)(int32_t)>("PLOV_PlaySound")(second);
+        // The board closes right after the closing theme starts: it plays on,
+        // but nothing new loads until the next initialisation.
+        api<void (*)()>("PLOV_Shutdown")();
+        QCOMPARE(status(second), 1);
+        int32_t third = 0;
+        QVERIFY(load(101, &third) < 0);
+        QCOMPARE(api<int32_t (*)(uintptr_t)>("PLOV_InitSound")(0), 0);
+        QCOMPARE(load(101, &third), 0);
+        api<void (*)(int32_t, int32_t)>("PLOV_SeekSound")(second, 60000);
+        QVERIFY(status(second) != 1);
+    }
+
     void nothingLoadsAfterShutdown()
     {
         QCOMPARE(api<int32_t (*)(uintptr_t)>("PLOV_InitSound")(0), 0);

@@ -114,7 +114,8 @@ private slots:
         QVERIFY(home);
         QPointer<QWidget> guard(home);
         home->close();
-        QTRY_VERIFY(guard.isNull()); // deleted on close
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(guard.isNull()); // deleted on close
     }
 
     void bindsBothLibrariesFromProgramFolderWithoutMessages()

@@ -1,14 +1,19 @@
 #include "Mixer.h"
 
 #include <algorithm>
+#include <cstdint>
 
 namespace plovqsnd {
 
 Mixer::Slot *Mixer::slot(int32_t handle)
 {
-    if (handle < 1 || handle > kMaxClips || !slots_[handle - 1].used)
+    if (handle <= 0)
         return nullptr;
-    return &slots_[handle - 1];
+    for (Slot &s : slots_) {
+        if (s.handle == handle)
+            return &s;
+    }
+    return nullptr;
 }
 
 const Mixer::Slot *Mixer::slot(int32_t handle) const
@@ -18,10 +23,11 @@ const Mixer::Slot *Mixer::slot(int32_t handle) const
 
 int32_t Mixer::load(std::span<const int16_t> samples)
 {
-    for (size_t i = 0; i < slots_.size(); ++i) {
-        if (!slots_[i].used) {
-            slots_[i] = Slot{samples, 0, true, false};
-            return int32_t(i + 1);
+    for (Slot &s : slots_) {
+        if (s.handle == 0) {
+            lastHandle_ = lastHandle_ == INT32_MAX ? 1 : lastHandle_ + 1;
+            s = Slot{samples, 0, lastHandle_, false};
+            return lastHandle_;
         }
     }
     return 0;
@@ -50,6 +56,23 @@ void Mixer::unload(int32_t handle)
 void Mixer::clear()
 {
     slots_.fill(Slot{});
+}
+
+void Mixer::releaseIdle()
+{
+    for (Slot &s : slots_) {
+        if (!s.playing)
+            s = Slot{};
+    }
+}
+
+bool Mixer::anyPlaying() const
+{
+    for (const Slot &s : slots_) {
+        if (s.playing)
+            return true;
+    }
+    return false;
 }
 
 int32_t Mixer::lengthMs(int32_t handle) const

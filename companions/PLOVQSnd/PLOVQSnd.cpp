@@ -38,17 +38,32 @@ constexpr Clip kClips[] = {
 };
 
 // One audio device for the whole library; the mixer is shared with SDL's
-// audio thread, so every access goes through lockDevice().
+// audio thread, so every access holds the mutex. After a shutdown the device
+// stays open while a clip still plays (the game's closing theme comes just
+// before it closes its board); it closes for good when the library goes.
 struct Device {
     SDL_AudioDeviceID id = 0;
+    bool ready = false; // initialised and not shut down: clips may load
     Mixer mixer;
     std::mutex mutex;
 };
 
+void closeDevice(Device &d)
+{
+    if (d.id != 0) {
+        SDL_CloseAudioDevice(d.id); // waits for the audio thread to finish
+        d.id = 0;
+        SDL_QuitSubSystem(SDL_INIT_AUDIO);
+    }
+    std::lock_guard lock(d.mutex);
+    d.mixer.clear();
+}
+
 Device &device()
 {
-    static Device d;
-    return d;
+    // Never destroyed: the unload hook below still needs it then.
+    static Device *d = new Device;
+    return *d;
 }
 
 void audioCallback(void *, Uint8 *stream, int length)
@@ -74,8 +89,10 @@ extern "C" {
 int32_t PLOV_InitSound(uintptr_t)
 {
     Device &d = device();
-    if (d.id != 0)
+    if (d.id != 0) {
+        d.ready = true;
         return 0;
+    }
     if (SDL_InitSubSystem(SDL_INIT_AUDIO) != 0)
         return -1;
     SDL_AudioSpec want{};
@@ -90,6 +107,7 @@ int32_t PLOV_InitSound(uintptr_t)
         return -2;
     }
     SDL_PauseAudioDevice(d.id, 0);
+    d.ready = true;
     return 0;
 }
 
@@ -98,7 +116,7 @@ int32_t PLOV_LoadSound(int32_t soundId, int32_t *hSound)
     Device &d = device();
     if (hSound)
         *hSound = 0;
-    if (d.id == 0 || !hSound)
+    if (!d.ready || !hSound)
         return -1;
     const std::span<const int16_t> samples = samplesOf(soundId);
     if (samples.empty())
@@ -140,13 +158,15 @@ void PLOV_UnloadSound(int32_t *hSound)
 void PLOV_Shutdown(void)
 {
     Device &d = device();
-    if (d.id != 0) {
-        SDL_CloseAudioDevice(d.id); // waits for the audio thread to finish
-        d.id = 0;
-        SDL_QuitSubSystem(SDL_INIT_AUDIO);
+    d.ready = false;
+    bool playing = false;
+    {
+        std::lock_guard lock(d.mutex);
+        d.mixer.releaseIdle();
+        playing = d.mixer.anyPlaying();
     }
-    std::lock_guard lock(d.mutex);
-    d.mixer.clear();
+    if (!playing)
+        closeDevice(d);
 }
 
 int32_t PLOV_GetSoundLength(int32_t hSound)
@@ -164,3 +184,9 @@ void PLOV_SeekSound(int32_t hSound, int32_t milliseconds)
 }
 
 } // extern "C"
+
+// The library is being unloaded: no audio thread may outlive its code.
+__attribute__((destructor)) static void closeOnUnload()
+{
+    closeDevice(device());
+}

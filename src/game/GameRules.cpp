@@ -78,6 +78,7 @@ QString RankingKey(qint32 score)
 
 QString StandingsText(int teams, const std::array<qint32, 10> &scores)
 {
+    teams = qBound(0, teams, int(scores.size()));
     // lstWinner: the ranking keys in ascending text order, each with its
     // team's index; equal keys keep the order in which they were added.
     std::vector<std::pair<QString, int>> lstWinner;

@@ -150,6 +150,7 @@ void frmMain::UnloadTeamLabel(int i)
 
 void frmMain::PrepareTeamLabels(int teams)
 {
+    teams = qBound(0, teams, 10);
     lblTeam[0]->setVisible(teams > 0);
     lblScore[0]->setVisible(teams > 0);
     for (int i = int(lblTeam.size()) - 1; i >= 1; --i)

@@ -9,6 +9,7 @@
 #include <functional>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <vector>
 
 namespace {
 
@@ -95,22 +96,28 @@ FileError WriteFileReplacing(const QString &path, const QByteArray &bytes)
 FileError CopyFileReplacing(const QString &from, const QString &to)
 {
     const QFileInfo source(from), destination(to);
-    if (!source.exists())
-        return systemError(ENOENT);
-    if (!source.isFile())
+    if (source.exists() && !source.isFile())
         return systemError(source.isDir() ? EISDIR : EINVAL);
     if (destination.exists() && source.canonicalFilePath() == destination.canonicalFilePath())
         return {EEXIST, QStringLiteral("A file cannot be copied onto itself.")};
-    QFile in(from);
-    if (!in.open(QIODevice::ReadOnly))
-        return systemError(EACCES);
+    const int in = ::open(QFile::encodeName(from).constData(), O_RDONLY | O_CLOEXEC);
+    if (in < 0)
+        return systemError(errno);
     // Streamed in chunks: a file of any size copies without filling memory.
-    return replaceFile(to, [&](int fd) {
-        QByteArray chunk;
-        while (!(chunk = in.read(1 << 20)).isEmpty()) {
-            if (const int e = writeAll(fd, chunk.constData(), chunk.size()))
+    const FileError result = replaceFile(to, [in](int fd) {
+        std::vector<char> chunk(1 << 20);
+        for (;;) {
+            const ssize_t n = ::read(in, chunk.data(), chunk.size());
+            if (n < 0 && errno == EINTR)
+                continue;
+            if (n < 0)
+                return errno;
+            if (n == 0)
+                return 0;
+            if (const int e = writeAll(fd, chunk.data(), n))
                 return e;
         }
-        return in.error() == QFileDevice::NoError ? 0 : EIO;
     });
+    ::close(in);
+    return result;
 }

@@ -116,7 +116,9 @@ bool clsOpenSaveDlg::show(bool save)
     r.flags = flags_.Value(); // the flag set feeds the dialog, never the reverse
     r.defaultExtension = defaultExtension_;
     const FileDialogResult result = RunFileDialog(r);
-    if (!result.accepted)
+    // A path longer than the name buffer holds fails the dialog, as it
+    // always did: better no file than the wrong one.
+    if (!result.accepted || result.path.isEmpty() || result.path.size() >= kFileNameBuffer)
         return false;
     setFileName(result.path);
     filterIndex_ = result.filterIndex;

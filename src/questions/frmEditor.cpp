@@ -177,7 +177,7 @@ void frmEditor::mnuSave_Click()
     dialog.Flags().setNoReadOnlyReturn(true);
     dialog.Flags().setOverwritePrompt(true);
     dialog.setHwndOwner(uintptr_t(winId()));
-    if (!dialog.ShowSaveAs())
+    if (!dialog.ShowSaveAs() || dialog.FileName().isEmpty())
         return;
     const FileError error = WriteQuestionSet(questionSet, dialog.FileName());
     if (error) {

@@ -266,8 +266,14 @@ void frmEditor::txtSecs_LostFocus()
 
 bool frmEditor::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == txtSecs && event->type() == QEvent::FocusOut)
-        txtSecs_LostFocus();
+    // The focus that goes to a menu, a dialog or a message box comes back:
+    // the field has not been left, so a Save As writes what it holds.
+    if (watched == txtSecs && event->type() == QEvent::FocusOut) {
+        const Qt::FocusReason reason = static_cast<QFocusEvent *>(event)->reason();
+        if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason &&
+            reason != Qt::MenuBarFocusReason)
+            txtSecs_LostFocus();
+    }
     if (watched == txtSecs && event->type() == QEvent::KeyPress) {
         const auto *key = static_cast<QKeyEvent *>(event);
         if (key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab)

@@ -274,10 +274,13 @@ void frmSelect::paintEvent(QPaintEvent *)
 
 void frmSelect::keyPressEvent(QKeyEvent *event)
 {
-    // Enter presses the focused button, or else Start Game.
+    // Enter presses the focused button, or else Start Game while it shows.
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         auto *button = qobject_cast<QPushButton *>(focusWidget());
-        (button ? button : cmdStart)->click();
+        if (!button && cmdStart->isVisible())
+            button = cmdStart;
+        if (button)
+            button->click();
         return;
     }
     QWidget::keyPressEvent(event);

@@ -8,6 +8,10 @@ namespace {
 // How long a wait for the end of a clip sleeps between two looks at it.
 constexpr int kPollMs = 15;
 
+// Counts the clips the game has started: a wait ends when another clip
+// starts, whatever handle the library gives it.
+int clipsStarted = 0;
+
 template <typename F>
 bool resolve(QLibrary &library, const char *name, F &function)
 {
@@ -51,6 +55,7 @@ void PlayGameSound(int32_t soundId, bool waitForEnd)
         hSoundLib->UnloadSound(&hCurrentSound);
         hCurrentSound = 0;
     }
+    ++clipsStarted;
     if (hSoundLib->LoadSound(soundId, &hCurrentSound) < 0) {
         if (hCurrentSound != 0)
             hSoundLib->UnloadSound(&hCurrentSound);
@@ -63,10 +68,12 @@ void PlayGameSound(int32_t soundId, bool waitForEnd)
     // Events run between the looks; one of them may shut the library down
     // or play another clip, which ends this wait too.
     const int32_t playing = hCurrentSound;
-    while (hSoundLib && hCurrentSound == playing && hSoundLib->GetSoundStatus(playing) == 1)
+    const int thisClip = clipsStarted;
+    auto stillOurs = [&] { return hSoundLib && clipsStarted == thisClip && hCurrentSound == playing; };
+    while (stillOurs() && hSoundLib->GetSoundStatus(playing) == 1)
         Clock::instance().waitForEvents(kPollMs);
     // A clip started meanwhile is left to play: it cut this one off.
-    if (hSoundLib && hCurrentSound == playing) {
+    if (stillOurs()) {
         hSoundLib->UnloadSound(&hCurrentSound);
         hCurrentSound = 0;
     }

@@ -20,7 +20,6 @@ struct State {
     bool initialised = false;
     int initFailures = 0;
     int statusPolls = 0;
-    int32_t nextHandle = 1;
     std::map<int32_t, Clip> clips;       // by handle
     std::map<int32_t, int> lengthMs;     // by clip id
     std::map<int32_t, bool> loadFails;   // by clip id
@@ -67,7 +66,10 @@ FAKE_API int32_t PLOV_LoadSound(int32_t soundId, int32_t *hSound)
         note("LoadSound " + std::to_string(soundId) + " failed");
         return -1;
     }
-    const int32_t handle = s.nextHandle++;
+    // Handles are reused once free, as a library is free to do.
+    int32_t handle = 1;
+    while (s.clips.count(handle))
+        ++handle;
     s.clips[handle] = Clip{soundId, clipLength(soundId), false};
     *hSound = handle;
     note("LoadSound " + std::to_string(soundId));
