@@ -156,86 +156,99 @@ void renderTone(std::vector<double> &out, const Note &n, const Voice &v)
     }
 }
 
-void renderDrum(std::vector<double> &out, const Note &n, const Voice &v, Noise &noise)
+namespace {
+
+double drumLength(char drum)
 {
-    double length = 0.25;
-    if (n.drum == 'C') length = 1.6;
-    else if (n.drum == 'O') length = 0.5;
-    else if (n.drum == 'K' || n.drum == 'T' || n.drum == 'M') length = 0.45;
-    else if (n.drum == 'W' || n.drum == 'L') length = 0.15;
-    const size_t first = size_t(n.start * kRate);
-    const size_t count = size_t(length * kRate);
-    if (out.size() < first + count)
-        out.resize(first + count, 0.0);
-    // One-pole filters shape the noise: raw white noise puts most of its
-    // energy above 10 kHz, which hisses instead of sounding like a drum.
-    auto coefficient = [](double hz) { return 1.0 - std::exp(-2 * kPi * hz / kRate); };
-    const double below150 = coefficient(150), below1k = coefficient(1000);
-    const double below3k = coefficient(3000), below6k = coefficient(6000);
-    double low = 0, top1 = 0, top2 = 0;
-    // Metal (hats, crash): noise between about 3 and 6 kHz.
-    auto metal = [&](double x) {
-        low += below3k * (x - low);
-        top1 += below6k * ((x - low) - top1);
-        top2 += below6k * (top1 - top2);
-        return 2.5 * top2;
-    };
-    // Skin (snare, clap): noise below about 6 kHz.
-    auto skin = [&](double x, double lowCut) {
-        low += lowCut * (x - low);
-        top1 += below6k * ((x - low) - top1);
-        top2 += below6k * (top1 - top2);
-        return 1.5 * top2;
-    };
-    double phase = 0;
-    for (size_t i = 0; i < count; ++i) {
-        const double t = double(i) / kRate;
-        double s = 0;
-        switch (n.drum) {
-        case 'K': { // falling sine thump
-            const double f = 45 + 110 * std::exp(-t * 35);
-            phase += 2 * kPi * f / kRate;
-            s = std::sin(phase) * std::exp(-t * 9);
-            break;
-        }
+    switch (drum) {
+    case 'C': return 1.6;
+    case 'O': return 0.5;
+    case 'K': case 'T': case 'M': return 0.45;
+    case 'W': case 'L': return 0.15;
+    default: return 0.25;
+    }
+}
+
+// One hit of the drum kit, sample by sample. One-pole filters shape the
+// noise: raw white noise puts most of its energy above 10 kHz, which hisses
+// instead of sounding like a drum.
+class DrumHit {
+public:
+    DrumHit(char drum, Noise &noise) : drum_(drum), noise_(noise) {}
+
+    double sample(double t)
+    {
+        switch (drum_) {
+        case 'K': // falling sine thump
+            return std::sin(advance(45 + 110 * std::exp(-t * 35))) * std::exp(-t * 9);
         case 'T':
         case 'M': {
-            const double base = n.drum == 'T' ? 95 : 140;
-            const double f = base + 60 * std::exp(-t * 20);
-            phase += 2 * kPi * f / kRate;
-            s = 0.8 * std::sin(phase) * std::exp(-t * 8) + 0.1 * skin(noise.next(), below1k) * std::exp(-t * 30);
-            break;
+            const double base = drum_ == 'T' ? 95 : 140;
+            return 0.8 * std::sin(advance(base + 60 * std::exp(-t * 20))) * std::exp(-t * 8) +
+                   0.1 * skin(below1k_) * std::exp(-t * 30);
         }
-        case 'S':
-            phase += 2 * kPi * 190 / kRate;
-            s = 0.55 * skin(noise.next(), below150) * std::exp(-t * 18) + 0.35 * std::sin(phase) * std::exp(-t * 25);
-            break;
+        case 'S': {
+            const double tone = std::sin(advance(190));
+            return 0.55 * skin(below150_) * std::exp(-t * 18) + 0.35 * tone * std::exp(-t * 25);
+        }
         case 'X': // clap: three quick bursts
-            s = 0.6 * skin(noise.next(), below1k) *
-                (std::exp(-std::fmod(t, 0.012) * 250) * (t < 0.036) + std::exp(-t * 14) * 0.6);
-            break;
-        case 'H':
-            s = 0.35 * metal(noise.next()) * std::exp(-t * 70);
-            break;
-        case 'O':
-            s = 0.3 * metal(noise.next()) * std::exp(-t * 9);
-            break;
-        case 'C':
-            s = 0.4 * metal(noise.next()) * std::exp(-t * 2.8);
-            break;
+            return 0.6 * skin(below1k_) * (std::exp(-std::fmod(t, 0.012) * 250) * (t < 0.036) + std::exp(-t * 14) * 0.6);
+        case 'H': return 0.35 * metal() * std::exp(-t * 70);
+        case 'O': return 0.3 * metal() * std::exp(-t * 9);
+        case 'C': return 0.4 * metal() * std::exp(-t * 2.8);
         case 'W':
         case 'L': { // wood block, tuned near C6 (W) and F5 (L): a clock's tick and tock
-            const double f = n.drum == 'W' ? 1046.5 : 698.5;
-            s = 0.8 * std::sin(2 * kPi * f * t) * std::exp(-t * 45) +
-                0.25 * std::sin(2 * kPi * 2.76 * f * t) * std::exp(-t * 110) +
-                0.3 * skin(noise.next(), below3k) * std::exp(-t * 700);
-            break;
+            const double f = drum_ == 'W' ? 1046.5 : 698.5;
+            return 0.8 * std::sin(2 * kPi * f * t) * std::exp(-t * 45) +
+                   0.25 * std::sin(2 * kPi * 2.76 * f * t) * std::exp(-t * 110) +
+                   0.3 * skin(below3k_) * std::exp(-t * 700);
         }
         default:
-            throw std::runtime_error(std::string("unknown drum ") + n.drum);
+            throw std::runtime_error(std::string("unknown drum ") + drum_);
         }
-        out[first + i] += v.volume * n.velocity * s;
     }
+
+private:
+    static double coefficient(double hz) { return 1.0 - std::exp(-2 * kPi * hz / kRate); }
+
+    double advance(double hz)
+    {
+        phase_ += 2 * kPi * hz / kRate;
+        return phase_;
+    }
+
+    // Metal (hats, crash): noise between about 3 and 6 kHz.
+    double metal() { return 2.5 * bandPass(below3k_); }
+    // Skin (snare, clap): noise below about 6 kHz.
+    double skin(double lowCut) { return 1.5 * bandPass(lowCut); }
+
+    double bandPass(double lowCut)
+    {
+        const double x = noise_.next();
+        low_ += lowCut * (x - low_);
+        top1_ += below6k_ * ((x - low_) - top1_);
+        top2_ += below6k_ * (top1_ - top2_);
+        return top2_;
+    }
+
+    char drum_;
+    Noise &noise_;
+    double phase_ = 0, low_ = 0, top1_ = 0, top2_ = 0;
+    const double below150_ = coefficient(150), below1k_ = coefficient(1000);
+    const double below3k_ = coefficient(3000), below6k_ = coefficient(6000);
+};
+
+} // namespace
+
+void renderDrum(std::vector<double> &out, const Note &n, const Voice &v, Noise &noise)
+{
+    const size_t first = size_t(n.start * kRate);
+    const size_t count = size_t(drumLength(n.drum) * kRate);
+    if (out.size() < first + count)
+        out.resize(first + count, 0.0);
+    DrumHit hit(n.drum, noise);
+    for (size_t i = 0; i < count; ++i)
+        out[first + i] += v.volume * n.velocity * hit.sample(double(i) / kRate);
 }
 
 // A small Schroeder reverb: four combs in parallel, two all-passes in series.
