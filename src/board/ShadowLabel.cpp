@@ -1,5 +1,7 @@
 #include "ShadowLabel.h"
 
+#include "platform/FormLook.h"
+
 #include <QEvent>
 #include <QFontMetricsF>
 #include <QPainter>
@@ -7,9 +9,7 @@
 ShadowLabel::ShadowLabel(QWidget *parent) : QWidget(parent)
 {
     setAttribute(Qt::WA_TransparentForMouseEvents);
-    QFont f(QStringLiteral("Arial"));
-    f.setBold(true);
-    setFont(f); // refits through changeEvent
+    setFont(ArialFont(font().pointSizeF(), true)); // refits through changeEvent
 }
 
 void ShadowLabel::setCaption(const QString &caption)

@@ -14,6 +14,7 @@
 #include "board/BoardLayout.h"
 #include "platform/PictureBox.h"
 
+#include <QColor>
 #include <QImage>
 #include <QList>
 #include <QPixmap>
@@ -35,6 +36,9 @@ public:
 
     // The rules of play, and the state of the round they keep.
     BoardGame game{*this};
+    // Dollar amounts in gold, titles and clues in white: both with a shadow.
+    static inline const QColor kValueGold{255, 204, 51};
+
     // Number of scoring teams, 0 ("No scoring") to 10; set after loading.
     qint16 &Teams = game.state().Teams;
 

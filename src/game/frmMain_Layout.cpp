@@ -8,6 +8,7 @@
 #include "board/ShadowLabel.h"
 #include "board/TextFitting.h"
 #include "platform/CaptionControl.h"
+#include "platform/FormLook.h"
 #include "shell/PictureLibrary.h"
 
 #include <QPaintEvent>
@@ -31,9 +32,7 @@ void frmMain::Form_Resize()
     DrawLibraryBitmap(picText, basPLOVQuzr::PicIdBackdrop);
     banner_ = basPLOVQuzr::hPictureLib ? picText.image() : QImage();
 
-    QFont reference(QStringLiteral("Arial"));
-    reference.setBold(true);
-    reference.setPointSizeF(ReferencePointSize(basPLOVQuzr::PicIdBackdrop, W));
+    const QFont reference = ArialFont(ReferencePointSize(basPLOVQuzr::PicIdBackdrop, W), true);
     geometry_ = LayOutBoard(W, CaptionControl::lineHeight(reference));
     scaleBanner();
     layOutTeamLabels(reference.pointSizeF());

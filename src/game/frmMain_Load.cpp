@@ -5,6 +5,7 @@
 #include "GameState.h"
 #include "board/ShadowLabel.h"
 #include "platform/CaptionControl.h"
+#include "platform/FormLook.h"
 #include "platform/MsgBox.h"
 #include "questions/GameReads.h"
 #include "shell/PictureLibrary.h"
@@ -14,17 +15,6 @@
 #include <QTimer>
 
 namespace {
-
-QFont boldArial()
-{
-    QFont f(QStringLiteral("Arial"));
-    f.setBold(true);
-    f.setPointSizeF(8);
-    return f;
-}
-
-// Dollar amounts in gold, titles and clues in white: both with a shadow.
-const QColor kValueGold(255, 204, 51);
 
 } // namespace
 
@@ -60,7 +50,7 @@ void frmMain::createTiles()
     vseCategories->setDesignSize(QSizeF(6, 1));
     for (int c = 0; c < 6; ++c) {
         auto *header = new CaptionControl;
-        header->setFont(boldArial());
+        header->setFont(ArialFont(8, true));
         header->setCaption(game.state().headerCaption[size_t(c)]);
         vseCategories->addChild(header, QRectF(c, 0, 1, 1));
         vseCategory[size_t(c)] = header;
@@ -72,7 +62,7 @@ void frmMain::createTiles()
         for (int c = 0; c < 6; ++c) {
             const int i = r * 6 + c;
             auto *tile = new CaptionControl;
-            tile->setFont(boldArial());
+            tile->setFont(ArialFont(8, true));
             tile->setTextColor(kValueGold);
             tile->setCaption(game.state().tileCaption[size_t(i)]);
             row->addChild(tile, QRectF(c, 0, 1, 1));
@@ -84,7 +74,7 @@ void frmMain::createTiles()
 void frmMain::createAnswerScreen()
 {
     vseTV = new CaptionControl(area_);
-    vseTV->setFont(boldArial());
+    vseTV->setFont(ArialFont(8, true));
     vseTV->hide();
     lblCategory = new ShadowLabel(vseTV);
     lblCategory->setCaption(QStringLiteral("Category"));

@@ -20,7 +20,6 @@ namespace {
 // Each row of a new round reaches the screen as its own frame while the
 // board-fill sound plays.
 constexpr int kRowFrameMs = 120;
-const QColor kValueGold(255, 204, 51);
 
 bool allThreeHeld(Qt::KeyboardModifiers m)
 {

@@ -3,22 +3,19 @@
 #include "HelpTexts.h"
 #include "board/Backdrop.h"
 #include "platform/CaptionControl.h"
+#include "platform/FormLook.h"
 
 #include <QButtonGroup>
 #include <QCloseEvent>
-#include <QGuiApplication>
 #include <QPainter>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QScreen>
 
 frmHowToPlay::frmHowToPlay(QWidget *parent) : QWidget(parent)
 {
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(QStringLiteral("How To Play Quizzarr!"));
-    QFont arial(QStringLiteral("Arial"));
-    arial.setPointSizeF(11);
-    setFont(arial);
+    setFont(ArialFont(11));
 
     vseButtons = new CaptionControl(this);
     vseButtons->setDesignSize(QSizeF(5, 1));
@@ -35,13 +32,10 @@ frmHowToPlay::frmHowToPlay(QWidget *parent) : QWidget(parent)
 
     txtPlay = new QPlainTextEdit(this);
     txtPlay->setReadOnly(true);
-    QFont text(QStringLiteral("Arial"));
-    text.setPointSizeF(13);
-    txtPlay->setFont(text);
+    txtPlay->setFont(ArialFont(13));
 
     resize(640, 480);
-    if (const QScreen *screen = QGuiApplication::primaryScreen())
-        move((screen->size().width() - width()) / 2, (screen->size().height() - height()) / 2);
+    CentreOnScreen(*this);
     optHelp_Click(0);
 }
 

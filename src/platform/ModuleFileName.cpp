@@ -39,6 +39,13 @@ QString gameExecutableName()
     return QStringLiteral(QUIZZARR_EXECUTABLE_NAME);
 }
 
+QString withoutExtension(const QString &path)
+{
+    const qsizetype dot = path.lastIndexOf(QLatin1Char('.'));
+    const qsizetype slash = path.lastIndexOf(QLatin1Char('/'));
+    return dot > slash ? path.left(dot) : path;
+}
+
 QString withTrailingSeparator(const QString &folder)
 {
     return folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/');

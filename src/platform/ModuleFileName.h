@@ -15,6 +15,10 @@ QString programFolder();
 // The file name the game's own executable is built under, without folder.
 QString gameExecutableName();
 
+// The path without the extension of its file name; a dot in a folder's
+// name is not an extension.
+QString withoutExtension(const QString &path);
+
 // Appends "/" unless the path already ends in one.
 QString withTrailingSeparator(const QString &folder);
 

@@ -2,6 +2,7 @@
 
 #include "NumberText.h"
 #include "platform/GetPrivateProfileString.h"
+#include "platform/ModuleFileName.h"
 #include "platform/Windows1252.h"
 
 #include <QStringList>
@@ -98,10 +99,7 @@ QString ReadIniValue(const QString &Section, const QString &Key, const QString &
 
 QString FileBaseOf(const QString &FileName)
 {
-    // The extension belongs to the file's own name, never to a folder's.
-    const qsizetype dot = FileName.lastIndexOf(QLatin1Char('.'));
-    const qsizetype slash = FileName.lastIndexOf(QLatin1Char('/'));
-    return dot > slash ? FileName.left(dot) : FileName;
+    return ModuleFileName::withoutExtension(FileName);
 }
 
 QString WithQz2Extension(const QString &FileName)

@@ -3,6 +3,7 @@
 #include "clsOpenSaveDlg.h"
 #include "board/Backdrop.h"
 #include "platform/CaptionControl.h"
+#include "platform/FormLook.h"
 #include "platform/ModuleFileName.h"
 #include "platform/MsgBox.h"
 #include "platform/SpecialFolders.h"
@@ -11,13 +12,11 @@
 #include <QAction>
 #include <QCloseEvent>
 #include <QComboBox>
-#include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QPainter>
 #include <QPushButton>
-#include <QScreen>
 
 namespace {
 
@@ -94,8 +93,7 @@ void frmEditor::showEvent(QShowEvent *event)
 void frmEditor::Form_Load()
 {
     resize(640, 480);
-    if (const QScreen *screen = QGuiApplication::primaryScreen())
-        move((screen->size().width() - width()) / 2, (screen->size().height() - height()) / 2);
+    CentreOnScreen(*this);
     cmbRounds->setCurrentIndex(1);
     cmbCategories->setCurrentIndex(5);
     Modified.clear();

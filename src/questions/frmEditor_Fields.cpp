@@ -5,6 +5,7 @@
 
 #include "NumberText.h"
 #include "platform/CaptionControl.h"
+#include "platform/FormLook.h"
 
 #include <QButtonGroup>
 #include <QComboBox>
@@ -21,17 +22,10 @@ constexpr QSizeF kDesign(512, 350);
 constexpr qreal kLeft = 84, kFieldHeight = 20.8, kListHeight = 22, kWide = 416.8;
 constexpr qreal kTextRows[10] = {120, 140, 164, 184, 208, 228, 252, 272, 296, 316};
 
-QFont arial(qreal points)
-{
-    QFont f(QStringLiteral("Arial"));
-    f.setPointSizeF(points);
-    return f;
-}
-
 QLabel *caption(const QString &text, QWidget *buddy)
 {
     auto *label = new QLabel(text);
-    label->setFont(arial(9.75));
+    label->setFont(ArialFont(9.75));
     label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     label->setStyleSheet(QStringLiteral("color: white; background: transparent;"));
     label->setBuddy(buddy);
@@ -50,7 +44,7 @@ void put(QLineEdit *field, const QString &text)
 QLineEdit *frmEditor::addField(const QString &text, QRectF design, QRectF captionDesign)
 {
     auto *field = new QLineEdit;
-    field->setFont(arial(8.25));
+    field->setFont(ArialFont(8.25));
     vseMain->addChild(field, design);
     QLabel *label = caption(text, field);
     vseMain->addChild(label, captionDesign);
@@ -84,7 +78,7 @@ void frmEditor::createRoundsAndCategories()
 {
     auto list = [&](const QString &text, qreal top, int count) {
         auto *combo = new QComboBox;
-        combo->setFont(arial(8.25));
+        combo->setFont(ArialFont(8.25));
         for (int i = 1; i <= count; ++i)
             combo->addItem(QString::number(i));
         vseMain->addChild(combo, QRectF(kLeft, top, 36.8, kListHeight));
@@ -93,7 +87,7 @@ void frmEditor::createRoundsAndCategories()
         row->setRowLayout(true);
         // The buttons take the row's font, which grows with the window; the
         // one pressed stands out in gold.
-        row->setFont(arial(9.75));
+        row->setFont(ArialFont(9.75));
         row->setStyleSheet(QStringLiteral(
             "QPushButton { background: #e6e8f2; color: black; border: 1px solid #20244a; border-radius: 4px; margin: 1px; }"
             "QPushButton:checked { background: #ffcc33; border: 2px solid white; font-weight: bold; }"));

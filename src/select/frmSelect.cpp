@@ -11,6 +11,7 @@
 #include "questions/frmEditor.h"
 #include "platform/CaptionControl.h"
 #include "platform/CommandButton.h"
+#include "platform/FormLook.h"
 #include "platform/ModuleFileName.h"
 #include "platform/MsgBox.h"
 #include "platform/SpecialFolders.h"
@@ -27,16 +28,8 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPainter>
-#include <QScreen>
 
 namespace {
-
-QFont arial(qreal points)
-{
-    QFont f(QStringLiteral("Arial"));
-    f.setPointSizeF(points);
-    return f;
-}
 
 const QStringList kTeamCounts{
     QStringLiteral("No scoring"), QStringLiteral("One team"),   QStringLiteral("Two teams"),
@@ -52,8 +45,7 @@ frmSelect::frmSelect(QWidget *parent) : QWidget(parent)
     setWindowTitle(QStringLiteral("Select the question set to use"));
     createControls();
     resize(640, 480);
-    if (const QScreen *screen = QGuiApplication::primaryScreen())
-        move((screen->size().width() - width()) / 2, (screen->size().height() - height()) / 2);
+    CentreOnScreen(*this);
     PopulateQZ2();
     cmbScore->setCurrentIndex(3);
     if (lstQuestions->count() > 0)
@@ -66,16 +58,16 @@ frmSelect::~frmSelect() = default;
 void frmSelect::createControls()
 {
     lstQuestions = new QListWidget(this);
-    lstQuestions->setFont(arial(9.75));
+    lstQuestions->setFont(ArialFont(9.75));
     lstQuestions->setItemDelegate(new QuestionListDelegate(lstQuestions));
     lstQuestions->setSelectionMode(QAbstractItemView::SingleSelection);
     connect(lstQuestions, &QListWidget::itemDoubleClicked, this, [this] { cmdStart_Click(); });
 
     lblScore = new QLabel(QStringLiteral("Keep score for:"), this);
-    lblScore->setFont(arial(12));
+    lblScore->setFont(ArialFont(12));
     lblScore->setStyleSheet(QStringLiteral("color: white; background: transparent;"));
     cmbScore = new QComboBox(this);
-    cmbScore->setFont(arial(9.75));
+    cmbScore->setFont(ArialFont(9.75));
     cmbScore->addItems(kTeamCounts);
     createButtons();
     createMenus();
@@ -105,7 +97,7 @@ void frmSelect::createButtons()
     vseImportExport->addChild(cmdImport, QRectF(0, 1125, 732, 810));
 
     for (CommandButton *b : {cmdStart, cmdEditor, cmdHowToPlay, cmdExport, cmdImport})
-        b->setFont(arial(9.75));
+        b->setFont(ArialFont(9.75));
     connect(cmdStart, &QPushButton::clicked, this, &frmSelect::cmdStart_Click);
     connect(cmdEditor, &QPushButton::clicked, this, &frmSelect::cmdEditor_Click);
     connect(cmdHowToPlay, &QPushButton::clicked, this, &frmSelect::cmdHowToPlay_Click);

@@ -17,14 +17,6 @@ struct RunModeRecord {
 
 RunModeRecord record;
 
-// Cuts the extension from the file name, never inside a folder name.
-QString withoutExtension(const QString &path)
-{
-    const qsizetype dot = path.lastIndexOf(QLatin1Char('.'));
-    const qsizetype slash = path.lastIndexOf(QLatin1Char('/'));
-    return dot > slash ? path.left(dot) : path;
-}
-
 } // namespace
 
 namespace basDetectDevEnv {
@@ -38,7 +30,7 @@ bool IsRunningCompiled()
     const QString module = ModuleFileName::path();
     if (module.size() < 1 || module.size() >= 1023)
         return false;
-    record.modulePath = withoutExtension(module.toLower());
+    record.modulePath = ModuleFileName::withoutExtension(module.toLower());
     record.expectedPath = (ModuleFileName::programFolder() + ModuleFileName::gameExecutableName()).toLower();
     record.settled = true;
     return record.modulePath == record.expectedPath;
