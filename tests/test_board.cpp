@@ -6,15 +6,15 @@
 #include "ScriptedMsgBox.h"
 
 #include "board/AnimationGeometry.h"
-#include "board/Backdrop.h"
+#include "ui/controls/Backdrop.h"
 #include "board/BoardLayout.h"
-#include "board/ShadowLabel.h"
+#include "ui/controls/ShadowLabel.h"
 #include "board/TextFitting.h"
 #include "game/GameState.h"
-#include "game/frmMain.h"
-#include "platform/CaptionControl.h"
+#include "BoardUnderTest.h"
+#include "ui/controls/CaptionControl.h"
 #include "shell/PictureLibrary.h"
-#include "shell/basPLOVQuzr.h"
+#include "shell/Libraries.h"
 
 #include <QTemporaryDir>
 #include <QtTest>
@@ -54,9 +54,12 @@ class TestBoard : public QObject {
 
     QTemporaryDir dir_;
 
-    frmMain *newBoard(QSize size = QSize(1024, 768))
+    GameState state_;
+    Libraries libraries_;
+
+    BoardUnderTest *newBoard(QSize size = QSize(1024, 768))
     {
-        auto *board = new frmMain;
+        auto *board = new BoardUnderTest(state_, libraries_);
         board->resize(size);
         board->Form_Resize();
         return board;
@@ -75,20 +78,20 @@ private slots:
     void initTestCase()
     {
         QFont::insertSubstitution(QStringLiteral("Arial"), QStringLiteral("Liberation Sans"));
-        basPLOVQuzr::hPictureLib = PictureLibrary::load(QStringLiteral(QUIZZARR_PROGRAM_DIR "/PLOVQBmp.so"));
-        QVERIFY(basPLOVQuzr::hPictureLib);
+        libraries_.hPictureLib = PictureLibrary::load(QStringLiteral(QUIZZARR_PROGRAM_DIR "/PLOVQBmp.so"));
+        QVERIFY(libraries_.hPictureLib);
     }
 
-    void cleanupTestCase() { basPLOVQuzr::ShutdownLibraries(); }
+    void cleanupTestCase() { libraries_.ShutdownLibraries(); }
 
     void init()
     {
-        basPLOVQuzr::Scores.fill(0);
-        basPLOVQuzr::QuestionFile.clear();
-        basPLOVQuzr::PicIdScreen = 400;
-        basPLOVQuzr::PicIdDailyDouble = 401;
-        basPLOVQuzr::PicIdFinal = 402;
-        basPLOVQuzr::PicIdBackdrop = 403;
+        state_.Scores.fill(0);
+        state_.QuestionFile.clear();
+        state_.PicIdScreen = 400;
+        state_.PicIdDailyDouble = 401;
+        state_.PicIdFinal = 402;
+        state_.PicIdBackdrop = 403;
     }
 
     void lays800PixelBoardOut()
@@ -103,7 +106,7 @@ private slots:
         QCOMPARE(g.bannerHeight, g.y0 - 31);
 
         // The same on a real board 800 pixels wide, within a pixel.
-        std::unique_ptr<frmMain> board(newBoard(QSize(800, 600)));
+        std::unique_ptr<BoardUnderTest> board(newBoard(QSize(800, 600)));
         QCOMPARE(board->boardSize(), QSizeF(800, 600));
         QVERIFY(qAbs(board->vseCategories->y() - 99.62) <= 1);
         QVERIFY(qAbs(board->vseCategories->width() - 650) <= 1);
@@ -124,7 +127,7 @@ private slots:
     void wholeBoardIsVisibleOnCommonScreens()
     {
         QFETCH(QSize, screen);
-        std::unique_ptr<frmMain> board(newBoard(screen));
+        std::unique_ptr<BoardUnderTest> board(newBoard(screen));
         const QRect area = board->boardArea();
         QVERIFY(QRect(QPoint(0, 0), screen).contains(area));
         // Centred: equal margins left and right, top and bottom.
@@ -149,11 +152,11 @@ private slots:
     void teamLabelsFollowTheTeamCount()
     {
         QFETCH(int, teams);
-        std::unique_ptr<frmMain> board(newBoard());
+        std::unique_ptr<BoardUnderTest> board(newBoard());
         board->show();
-        board->Teams = qint16(teams);
+        board->game().setTeams(teams);
         board->PrepareTeamLabels(teams);
-        basPLOVQuzr::Scores[9] = 1500;
+        state_.Scores[9] = 1500;
         board->Form_Resize();
         QCOMPARE(board->lblTeam.size(), qMax(1, teams));
         QCOMPARE(board->lblScore2.size(), qMax(1, teams));
@@ -204,7 +207,7 @@ private slots:
         QFETCH(QSizeF, box);
         CaptionControl c;
         c.setFont(bold(8));
-        CramText(text, c, 8, box.width(), box.height());
+        c.showFitted(CramText(text, c.font(), 8, box.width(), box.height()));
         QCOMPARE(int(c.fontSize()), largestFittingSize(text, 8, box.width(), box.height()));
         QVERIFY(TextFits(c.font(), c.caption(), box.width(), box.height()));
         QCOMPARE(c.caption().remove(QLatin1Char('\n')).remove(QLatin1Char(' ')), QString(text).remove(QLatin1Char(' ')));
@@ -215,13 +218,13 @@ private slots:
         CaptionControl c;
         c.setFont(bold(8));
         // One word wider than the box at 8 ends at 7, on one line.
-        CramText(QStringLiteral("Supercalifragilistic"), c, 8, 30, 40);
+        c.showFitted(CramText(QStringLiteral("Supercalifragilistic"), c.font(), 8, 30, 40));
         QCOMPARE(c.fontSize(), 7.0);
         QCOMPARE(c.caption(), QStringLiteral("Supercalifragilistic"));
         // Two words that do not fit side by side: one word a line.
-        const qreal oneWord = CaptionControl::textWidth(bold(8), QStringLiteral("Wombat"));
+        const qreal oneWord = CaptionText::width(bold(8), QStringLiteral("Wombat"));
         c.setFontSize(8);
-        CramText(QStringLiteral("Wombat Wombat"), c, 8, oneWord * 1.5, 400);
+        c.showFitted(CramText(QStringLiteral("Wombat Wombat"), c.font(), 8, oneWord * 1.5, 400));
         QVERIFY(c.caption().contains(QLatin1Char('\n')));
         for (const QString &line : c.caption().split(QLatin1Char('\n')))
             QCOMPARE(line, QStringLiteral("Wombat"));
@@ -233,7 +236,7 @@ private slots:
         }
         // An empty text gives an empty caption.
         c.setCaption(QStringLiteral("old"));
-        CramText(QString(), c, 8, 100, 100);
+        c.showFitted(CramText(QString(), c.font(), 8, 100, 100));
         QCOMPARE(c.caption(), QString());
         // No break offered: the rest stays on one over-long line.
         QCOMPARE(WrapText(QStringLiteral("Unbreakable"), bold(20), 10), QStringLiteral("Unbreakable"));
@@ -247,7 +250,7 @@ private slots:
         clue.truncate(1999);
         CaptionControl tv;
         tv.setFont(bold(60));
-        CramText(clue, tv, 60, 800, 600);
+        tv.showFitted(CramText(clue, tv.font(), 60, 800, 600));
         QVERIFY(tv.fontSize() < 50);
         QVERIFY(TextFits(tv.font(), tv.caption(), 800, 600));
         QVERIFY(!TextFits(bold(tv.fontSize() + 1), WrapText(clue, bold(tv.fontSize() + 1), 800), 800, 600));
@@ -255,9 +258,9 @@ private slots:
 
     void zoomGrowsInFiveEqualStepsToTheWholeBoard()
     {
-        std::unique_ptr<frmMain> board(newBoard());
+        std::unique_ptr<BoardUnderTest> board(newBoard());
         board->show();
-        board->Teams = 3;
+        board->game().setTeams(3);
         board->PrepareTeamLabels(3);
         board->Form_Resize();
         board->vseQuestion_RealignFrame(0);
@@ -272,7 +275,7 @@ private slots:
                          board->vseQuestion[0]->size());
         const qreal tileFont = board->vseQuestion[0]->fontSize();
 
-        board->ZoomTV(board->vseQuestion[0], basPLOVQuzr::PicIdScreen);
+        board->ZoomTV({ZoomSource::Tile, 0}, state_.PicIdScreen);
 
         QCOMPARE(frames.size(), 5);
         const QSizeF W = board->boardSize();
@@ -299,37 +302,35 @@ private slots:
 
     void zoomWithoutCaptionKeepsTheFontAndShowsNoTeamsWithoutScoring()
     {
-        std::unique_ptr<frmMain> board(newBoard());
+        std::unique_ptr<BoardUnderTest> board(newBoard());
         board->show();
         FakeClock clock;
         board->vseTV->setCaption(QString());
         board->vseTV->setFontSize(11);
         QList<qreal> sizes;
         clock.onPause = [&](int) { sizes.append(board->vseTV->fontSize()); };
-        board->ZoomTV(board->vseQuestion[9], basPLOVQuzr::PicIdDailyDouble);
+        board->ZoomTV({ZoomSource::Tile, 9}, state_.PicIdDailyDouble);
         // The screen takes the tile's font size, then keeps it.
         for (qreal s : sizes)
             QCOMPARE(s, board->vseQuestion[9]->fontSize());
         QVERIFY(!board->lblTeam2[0]->isVisible());
         PictureBox expected;
-        DrawLibraryBitmap(expected, basPLOVQuzr::PicIdDailyDouble);
+        libraries_.DrawLibraryBitmap(expected, state_.PicIdDailyDouble);
         QCOMPARE(board->vseTV->picture(), expected.image());
     }
 
-    void headerZoomShowsTheTitleAndLocksTheScreen()
+    void headerZoomShowsTheTitle()
     {
-        std::unique_ptr<frmMain> board(newBoard());
+        std::unique_ptr<BoardUnderTest> board(newBoard());
         board->show();
         FakeClock clock;
         board->vseCategory[4]->setCaption(QStringLiteral("Rivers"));
-        board->vseTV->setTag(QStringLiteral("SA|3"));
         QRect first;
         clock.onPause = [&](int) {
             if (first.isNull())
                 first = board->vseTV->geometry();
         };
-        board->ZoomTV(board->vseCategory[4], basPLOVQuzr::PicIdScreen);
-        QCOMPARE(board->vseTV->tag(), QStringLiteral("NO"));
+        board->ZoomTV({ZoomSource::Header, 4}, state_.PicIdScreen);
         QCOMPARE(board->vseTV->caption(), QStringLiteral("Rivers"));
         // The first step starts from the header's place.
         const QRect header(board->vseCategory[4]->mapTo(board->vseTV->parentWidget(), QPoint(0, 0)),
@@ -340,16 +341,16 @@ private slots:
 
     void flipFoldsAndUnfoldsOverTheWholeBoard()
     {
-        std::unique_ptr<frmMain> board(newBoard());
+        std::unique_ptr<BoardUnderTest> board(newBoard());
         board->show();
         FakeClock clock;
-        board->ZoomTV(board->vseQuestion[14], basPLOVQuzr::PicIdFinal);
+        board->ZoomTV({ZoomSource::Tile, 14}, state_.PicIdFinal);
         QList<QRect> frames;
         clock.onPause = [&](int ms) {
             QCOMPARE(ms, 16);
             frames.append(board->vseTV->geometry());
         };
-        board->RotateTV(basPLOVQuzr::PicIdFinal, basPLOVQuzr::PicIdScreen);
+        board->RotateTV(state_.PicIdFinal, state_.PicIdScreen);
         QCOMPARE(frames.size(), 18);
         const QSize W = board->boardSize().toSize();
         // Folding: ever thinner, centred, down to the sin 10 degrees strip,
@@ -365,18 +366,18 @@ private slots:
         QCOMPARE(frames.last(), QRect(QPoint(0, 0), W));
         QCOMPARE(board->vseTV->geometry(), QRect(QPoint(0, 0), W));
         PictureBox face;
-        DrawLibraryBitmap(face, basPLOVQuzr::PicIdScreen);
+        libraries_.DrawLibraryBitmap(face, state_.PicIdScreen);
         QCOMPARE(board->vseTV->picture(), face.image());
     }
 
     void loadRetriesSoundThenGoesOnWithout()
     {
-        FakeSoundControl fake;
+        FakeSoundControl fake(libraries_);
         ScriptedMsgBox boxes;
         fake.setInitFailures(2);
         boxes.answers = {MsgBoxResult::Retry, MsgBoxResult::Cancel};
         {
-            std::unique_ptr<frmMain> board(new frmMain);
+            std::unique_ptr<BoardUnderTest> board(new BoardUnderTest(state_, libraries_));
             QCOMPARE(boxes.shown.size(), 2);
             for (const ShownBox &box : boxes.shown) {
                 QCOMPARE(box.text, QStringLiteral(
@@ -392,7 +393,7 @@ private slots:
         fake.reset();
         // Two boards in a row: initialised and shut down once each.
         for (int game = 0; game < 2; ++game) {
-            auto *board = new frmMain;
+            auto *board = new BoardUnderTest(state_, libraries_);
             QSignalSpy gone(board, &frmMain::unloaded);
             board->Unload();
             QCOMPARE(gone.size(), 1);
@@ -422,18 +423,18 @@ private slots:
     {
         QFETCH(QByteArray, content);
         QFETCH(int, ms);
-        basPLOVQuzr::QuestionFile = writeSet(content);
-        std::unique_ptr<frmMain> board(new frmMain);
+        state_.QuestionFile = writeSet(content);
+        std::unique_ptr<BoardUnderTest> board(new BoardUnderTest(state_, libraries_));
         QCOMPARE(board->tmrQuestion->interval(), ms);
         QVERIFY(!board->tmrQuestion->isActive());
     }
 
     void tilesAndHeadersWearTheScreenFace()
     {
-        basPLOVQuzr::PicIdScreen = 300;
-        std::unique_ptr<frmMain> board(new frmMain);
+        state_.PicIdScreen = 300;
+        std::unique_ptr<BoardUnderTest> board(new BoardUnderTest(state_, libraries_));
         PictureBox face;
-        DrawLibraryBitmap(face, 300);
+        libraries_.DrawLibraryBitmap(face, 300);
         QCOMPARE(board->vseQuestion[29]->picture(), face.image());
         QCOMPARE(board->vseCategory[0]->picture(), face.image());
         QCOMPARE(board->vseQuestion[17]->caption(), QStringLiteral("$300"));

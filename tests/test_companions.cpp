@@ -4,7 +4,7 @@
 #include "PLOVQSnd.h"
 
 #include "platform/PictureBox.h"
-#include "shell/PictureLibrary.h"
+#include "shell/Libraries.h"
 
 #include <QLibrary>
 #include <QtTest>
@@ -19,6 +19,7 @@ class TestCompanions : public QObject {
     Q_OBJECT
 
     QLibrary sound_{programDir + QStringLiteral("PLOVQSnd.so")};
+    Libraries libraries_;
 
     template <typename F>
     F api(const char *name)
@@ -34,15 +35,14 @@ private slots:
     {
         qputenv("SDL_AUDIODRIVER", "dummy");
         QVERIFY2(sound_.load(), qPrintable(sound_.errorString()));
-        basPLOVQuzr::hPictureLib = PictureLibrary::load(programDir + QStringLiteral("PLOVQBmp.so"));
-        QVERIFY(basPLOVQuzr::hPictureLib);
+        libraries_.hPictureLib = PictureLibrary::load(programDir + QStringLiteral("PLOVQBmp.so"));
+        QVERIFY(libraries_.hPictureLib);
     }
 
     void cleanupTestCase()
     {
         api<void (*)()>("PLOV_Shutdown")();
-        delete basPLOVQuzr::hPictureLib;
-        basPLOVQuzr::hPictureLib = nullptr;
+        libraries_.ShutdownLibraries();
     }
 
     void holdsTwelvePicturesInThreeSizeClasses_data()
@@ -66,7 +66,7 @@ private slots:
         QFETCH(int, id);
         QFETCH(QSize, size);
         PictureBox box;
-        DrawLibraryBitmap(box, id);
+        libraries_.DrawLibraryBitmap(box, id);
         QCOMPARE(box.size(), size);
         // A real picture, not an empty surface: the centre is opaque or
         // (for banners) something is drawn somewhere along the middle row.
@@ -80,11 +80,11 @@ private slots:
     void bannersCoverTheWidestScreenOfTheirClass()
     {
         PictureBox box;
-        DrawLibraryBitmap(box, 203);
+        libraries_.DrawLibraryBitmap(box, 203);
         QVERIFY(box.width() >= 640);
-        DrawLibraryBitmap(box, 303);
+        libraries_.DrawLibraryBitmap(box, 303);
         QVERIFY(box.width() >= 949);
-        DrawLibraryBitmap(box, 403);
+        libraries_.DrawLibraryBitmap(box, 403);
         QVERIFY(box.width() >= 1920);
     }
 
@@ -95,7 +95,7 @@ private slots:
             QImage marked(12, 7, QImage::Format_ARGB32_Premultiplied);
             marked.fill(Qt::green);
             box.setImage(marked);
-            DrawLibraryBitmap(box, id);
+            libraries_.DrawLibraryBitmap(box, id);
             QCOMPARE(box.size(), QSize(12, 7));
             QCOMPARE(box.image(), marked);
         }
@@ -104,11 +104,11 @@ private slots:
     void sameIdTwiceGivesSamePicture()
     {
         PictureBox first, second;
-        DrawLibraryBitmap(first, 401);
-        DrawLibraryBitmap(second, 401);
+        libraries_.DrawLibraryBitmap(first, 401);
+        libraries_.DrawLibraryBitmap(second, 401);
         QCOMPARE(first.image(), second.image());
         PictureBox other;
-        DrawLibraryBitmap(other, 402);
+        libraries_.DrawLibraryBitmap(other, 402);
         QVERIFY(other.image() != first.image());
     }
 

@@ -5,11 +5,11 @@
 #include "ScriptedFileDialog.h"
 #include "ScriptedMsgBox.h"
 
-#include "platform/CaptionControl.h"
+#include "ui/controls/CaptionControl.h"
 #include "platform/SpecialFolders.h"
 #include "questions/QuestionSet.h"
 #include "questions/clsOpenSaveDlg.h"
-#include "questions/frmEditor.h"
+#include "ui/editor/frmEditor.h"
 
 #include <QComboBox>
 #include <QLineEdit>

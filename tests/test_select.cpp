@@ -8,23 +8,24 @@
 #include "ScriptedMsgBox.h"
 #include "TestFolder.h"
 
-#include "board/ShadowLabel.h"
+#include "ui/controls/ShadowLabel.h"
 #include "game/GameState.h"
-#include "game/frmMain.h"
+#include "ui/board/frmMain.h"
 #include "help/HelpTexts.h"
-#include "help/frmHowToPlay.h"
-#include "questions/frmEditor.h"
-#include "platform/CaptionControl.h"
-#include "platform/CommandButton.h"
+#include "ui/help/frmHowToPlay.h"
+#include "ui/editor/frmEditor.h"
+#include "ui/controls/CaptionControl.h"
+#include "ui/controls/CommandButton.h"
 #include "platform/ModuleFileName.h"
 #include "platform/SpecialFolders.h"
 #include "select/QuestionSetList.h"
 #include "select/SelectLayout.h"
-#include "select/clsShellFolders.h"
-#include "select/frmSelect.h"
+#include "platform/clsShellFolders.h"
+#include "ui/select/frmSelect.h"
 #include "shell/PictureLibrary.h"
 #include "shell/basDetectDevEnv.h"
-#include "shell/basPLOVQuzr.h"
+#include "game/GameState.h"
+#include "shell/Libraries.h"
 
 #include <QComboBox>
 #include <QLineEdit>
@@ -61,6 +62,8 @@ class TestSelect : public QObject {
     std::unique_ptr<FakeClock> clock_;
     std::unique_ptr<ScriptedFileDialog> dialogs_;
     QPointer<frmSelect> home_;
+    GameState state_;
+    Libraries libraries_;
 
     QString docs() const { return documents_->path() + QLatin1Char('/'); }
     void writeDoc(const QString &name, const QByteArray &bytes)
@@ -72,12 +75,20 @@ class TestSelect : public QObject {
 
     frmSelect *openHome()
     {
-        home_ = new frmSelect;
+        home_ = new frmSelect(state_, libraries_);
         home_->show();
         return home_;
     }
 
     frmMain *board() const { return home_->board(); }
+    // A label array of the board, by the names its elements carry.
+    QList<ShadowLabel *> labels(const char *array) const
+    {
+        QList<ShadowLabel *> found;
+        while (auto *l = board()->findChild<ShadowLabel *>(QStringLiteral("%1(%2)").arg(QLatin1String(array)).arg(found.size())))
+            found << l;
+        return found;
+    }
 
     // Ends a game the host's way and lets the board go.
     void quitGame()
@@ -112,7 +123,7 @@ private slots:
         SpecialFolders::overridePath(SpecialFolders::kDocuments, QString());
         documents_.reset();
         program_.reset();
-        basPLOVQuzr::ShutdownLibraries();
+        libraries_.ShutdownLibraries();
         ModuleFileName::overridePath(QString());
         basDetectDevEnv::ForgetRunMode();
     }
@@ -191,14 +202,14 @@ private slots:
     {
         program_->write(QStringLiteral("a.QZ2"), playable("A"));
         program_->write(QStringLiteral("b.QZ2"), playable("B"));
-        basPLOVQuzr::hPictureLib = PictureLibrary::load(QStringLiteral(QUIZZARR_PROGRAM_DIR "/PLOVQBmp.so"));
+        libraries_.hPictureLib = PictureLibrary::load(QStringLiteral(QUIZZARR_PROGRAM_DIR "/PLOVQBmp.so"));
         openHome();
         QFile::remove(program_->file(QStringLiteral("a.QZ2")));
         home_->cmdStart->click();
         QVERIFY(boxes_->shown.isEmpty());
         QCOMPARE(texts(home_->lstQuestions), QStringList({QStringLiteral("b.QZ2\tB")}));
         QVERIFY(home_->lstQuestions->selectedItems().isEmpty());
-        QCOMPARE(basPLOVQuzr::QuestionFile, program_->file(QStringLiteral("a.QZ2")));
+        QCOMPARE(state_.QuestionFile, program_->file(QStringLiteral("a.QZ2")));
 
         // The last one: the message, and the libraries go.
         program_->write(QStringLiteral("b.QZ2"), "[Round1]\r\nDescription=-NONE-\r\n");
@@ -207,7 +218,7 @@ private slots:
         QCOMPARE(boxes_->shown.size(), 1);
         QCOMPARE(boxes_->shown[0].text, QStringLiteral("I'm sorry, but I am unable to locate any valid .QZ2 files."));
         QCOMPARE(boxes_->shown[0].style, MsgBoxStyle::Critical);
-        QVERIFY(!basPLOVQuzr::hPictureLib);
+        QVERIFY(!libraries_.hPictureLib);
         QCOMPARE(home_->lstQuestions->count(), 0);
         // Start Game stays until the next refill; pressing it asks again.
         QVERIFY(home_->cmdStart->isVisible());
@@ -228,24 +239,24 @@ private slots:
         QFETCH(int, teams);
         program_->write(QStringLiteral("a.QZ2"), playable("A"));
         openHome();
-        basPLOVQuzr::Scores.fill(77);
-        basPLOVQuzr::Round = 4;
+        state_.Scores.fill(77);
+        state_.Round = 4;
         home_->cmbScore->setCurrentIndex(teams);
         home_->cmdStart->click();
 
         QVERIFY(board());
         QVERIFY(!home_->isVisible());
         QVERIFY(board()->isVisible());
-        QCOMPARE(int(board()->Teams), teams);
-        QCOMPARE(basPLOVQuzr::QuestionFile, program_->file(QStringLiteral("a.QZ2")));
-        QCOMPARE(basPLOVQuzr::Round, qint16(1));
-        QCOMPARE(basPLOVQuzr::Scores[9], 0);
-        QCOMPARE(board()->vseCategory[0]->caption(), QStringLiteral("Rivers"));
-        QCOMPARE(board()->lblTeam.size(), qMax(1, teams));
-        QCOMPARE(board()->lblTeam[0]->isVisible(), teams > 0);
-        for (int i = 0; i < board()->lblTeam.size(); ++i) {
-            QCOMPARE(board()->lblScore[i]->isVisible(), teams > 0);
-            QVERIFY(!board()->lblTeam2[i]->isVisible());
+        QCOMPARE(int(board()->game().state().Teams), teams);
+        QCOMPARE(state_.QuestionFile, program_->file(QStringLiteral("a.QZ2")));
+        QCOMPARE(state_.Round, qint16(1));
+        QCOMPARE(state_.Scores[9], 0);
+        QCOMPARE(board()->game().state().headerCaption[0], QStringLiteral("Rivers"));
+        QCOMPARE(labels("lblTeam").size(), qMax(1, teams));
+        QCOMPARE(labels("lblTeam")[0]->isVisible(), teams > 0);
+        for (int i = 0; i < labels("lblTeam").size(); ++i) {
+            QCOMPARE(labels("lblScore")[i]->isVisible(), teams > 0);
+            QVERIFY(!labels("lblTeam2")[i]->isVisible());
         }
         QVERIFY(boxes_->shown.isEmpty()); // no sound warning outside the game's own executable
     }
@@ -253,7 +264,7 @@ private slots:
     void warnsAboutSoundsAndPlaysTheFanfare()
     {
         program_->write(QStringLiteral("a.QZ2"), playable("A"));
-        FakeSoundControl sound;
+        FakeSoundControl sound(libraries_);
         clock_->onAdvance = [&](int ms) { sound.advance(ms); };
         ModuleFileName::overridePath(ModuleFileName::programFolder() + ModuleFileName::gameExecutableName());
         basDetectDevEnv::ForgetRunMode();
@@ -279,13 +290,13 @@ private slots:
         openHome();
         home_->cmbScore->setCurrentIndex(10);
         home_->cmdStart->click();
-        QCOMPARE(board()->lblTeam.size(), 10);
+        QCOMPARE(labels("lblTeam").size(), 10);
         quitGame();
         QVERIFY(!board());
         home_->cmbScore->setCurrentIndex(2);
         home_->cmdStart->click();
-        QCOMPARE(board()->lblTeam.size(), 2);
-        QCOMPARE(board()->lblScore2.size(), 2);
+        QCOMPARE(labels("lblTeam").size(), 2);
+        QCOMPARE(labels("lblScore2").size(), 2);
     }
 
     void selectionAndTeamCountSurviveAGameAndTheHelp()
@@ -296,7 +307,7 @@ private slots:
         home_->lstQuestions->setCurrentRow(1);
         home_->cmbScore->setCurrentIndex(5);
         home_->cmdStart->click();
-        QCOMPARE(basPLOVQuzr::QuestionFile, program_->file(QStringLiteral("b.QZ2")));
+        QCOMPARE(state_.QuestionFile, program_->file(QStringLiteral("b.QZ2")));
         quitGame();
         QVERIFY(home_->isVisible());
         QCOMPARE(home_->lstQuestions->currentRow(), 1);
@@ -320,14 +331,14 @@ private slots:
         home_->lstQuestions->setFocus();
         QTest::keyClick(home_->lstQuestions, Qt::Key_Return);
         QVERIFY(board());
-        QCOMPARE(basPLOVQuzr::QuestionFile, program_->file(QStringLiteral("a.QZ2")));
+        QCOMPARE(state_.QuestionFile, program_->file(QStringLiteral("a.QZ2")));
         quitGame();
         QListWidgetItem *second = home_->lstQuestions->item(1);
         const QRect r = home_->lstQuestions->visualItemRect(second);
         QTest::mouseClick(home_->lstQuestions->viewport(), Qt::LeftButton, Qt::NoModifier, r.center());
         QTest::mouseDClick(home_->lstQuestions->viewport(), Qt::LeftButton, Qt::NoModifier, r.center());
         QVERIFY(board());
-        QCOMPARE(basPLOVQuzr::QuestionFile, program_->file(QStringLiteral("b.QZ2")));
+        QCOMPARE(state_.QuestionFile, program_->file(QStringLiteral("b.QZ2")));
     }
 
     void editorButtonAsksWhatToEdit()
@@ -364,7 +375,7 @@ private slots:
 
     void layoutAt640By480()
     {
-        basPLOVQuzr::hPictureLib = PictureLibrary::load(QStringLiteral(QUIZZARR_PROGRAM_DIR "/PLOVQBmp.so"));
+        libraries_.hPictureLib = PictureLibrary::load(QStringLiteral(QUIZZARR_PROGRAM_DIR "/PLOVQBmp.so"));
         openHome();
         QCOMPARE(home_->size(), QSize(640, 480));
         const int H = 480, C = home_->cmbScore->height();
@@ -390,10 +401,10 @@ private slots:
 
     void closingTheHomeScreenReleasesTheLibraries()
     {
-        basPLOVQuzr::hPictureLib = PictureLibrary::load(QStringLiteral(QUIZZARR_PROGRAM_DIR "/PLOVQBmp.so"));
+        libraries_.hPictureLib = PictureLibrary::load(QStringLiteral(QUIZZARR_PROGRAM_DIR "/PLOVQBmp.so"));
         openHome();
         home_->close();
-        QVERIFY(!basPLOVQuzr::hPictureLib);
+        QVERIFY(!libraries_.hPictureLib);
     }
 
     void exportCopiesTheSelectedSetWhole()

@@ -12,7 +12,8 @@
 #include "shell/PictureLibrary.h"
 #include "shell/SoundLibrary.h"
 #include "shell/basDetectDevEnv.h"
-#include "shell/basPLOVQuzr.h"
+#include "shell/Libraries.h"
+#include "ui/shell/basPLOVQuzr.h"
 
 #include <QApplication>
 #include <QTimer>
@@ -42,13 +43,16 @@ QWidget *visibleWindowTitled(const QString &title)
 class TestShell : public QObject {
     Q_OBJECT
 
+    GameState state_;
+    Libraries libraries_;
+
 private slots:
     void cleanup()
     {
         ModuleFileName::overridePath(QString());
         ModuleFileName::overrideProgramFolder(QString());
         basDetectDevEnv::ForgetRunMode();
-        basPLOVQuzr::ShutdownLibraries();
+        libraries_.ShutdownLibraries();
     }
 
     void picksPictureSetByScreenWidth_data()
@@ -89,13 +93,13 @@ private slots:
     {
         TestFolder empty;
         ScriptedMsgBox boxes;
-        basPLOVQuzr::Round = 3;
+        state_.Round = 3;
         boxes.whileShown = [](const ShownBox &) {
             // The home screen comes only after both messages.
             QVERIFY(!visibleWindowTitled(QStringLiteral("Select the question set to use")));
         };
 
-        basPLOVQuzr::Main();
+        basPLOVQuzr::Main(state_, libraries_);
 
         QCOMPARE(boxes.shown.size(), 2);
         QCOMPARE(boxes.shown[0].text, QStringLiteral("Unable to load ") + empty.file(QStringLiteral("PLOVQBmp.so")) +
@@ -106,9 +110,9 @@ private slots:
             QCOMPARE(box.style, 0); // OK only, no icon
             QCOMPARE(box.caption, QStringLiteral("PLOV(tm) Quizzarr!"));
         }
-        QVERIFY(!basPLOVQuzr::hPictureLib);
-        QVERIFY(!basPLOVQuzr::hSoundLib);
-        QCOMPARE(basPLOVQuzr::Round, qint16(1));
+        QVERIFY(!libraries_.hPictureLib);
+        QVERIFY(!libraries_.hSoundLib);
+        QCOMPARE(state_.Round, qint16(1));
 
         QWidget *home = visibleWindowTitled(QStringLiteral("Select the question set to use"));
         QVERIFY(home);
@@ -123,16 +127,16 @@ private slots:
         ModuleFileName::overrideProgramFolder(QStringLiteral(QUIZZARR_PROGRAM_DIR));
         ScriptedMsgBox boxes;
 
-        basPLOVQuzr::Main();
+        basPLOVQuzr::Main(state_, libraries_);
 
         QVERIFY(boxes.shown.isEmpty());
-        QVERIFY(basPLOVQuzr::hPictureLib);
-        QVERIFY(basPLOVQuzr::hSoundLib);
+        QVERIFY(libraries_.hPictureLib);
+        QVERIFY(libraries_.hSoundLib);
         QWidget *home = visibleWindowTitled(QStringLiteral("Select the question set to use"));
         QVERIFY(home);
         home->close();
-        QVERIFY(!basPLOVQuzr::hPictureLib);
-        QVERIFY(!basPLOVQuzr::hSoundLib);
+        QVERIFY(!libraries_.hPictureLib);
+        QVERIFY(!libraries_.hSoundLib);
     }
 
     void reportsOneMissingLibraryOnly()
@@ -142,10 +146,10 @@ private slots:
         folder.write(QStringLiteral("PLOVQSnd.so"), "not a library at all");
         ScriptedMsgBox boxes;
 
-        basPLOVQuzr::Main();
+        basPLOVQuzr::Main(state_, libraries_);
 
-        QVERIFY(basPLOVQuzr::hPictureLib);
-        QVERIFY(!basPLOVQuzr::hSoundLib);
+        QVERIFY(libraries_.hPictureLib);
+        QVERIFY(!libraries_.hSoundLib);
         QCOMPARE(boxes.shown.size(), 1);
         QVERIFY(boxes.shown[0].text.endsWith(QStringLiteral("but with no sounds.")));
         visibleWindowTitled(QStringLiteral("Select the question set to use"))->close();
@@ -154,10 +158,10 @@ private slots:
     void libraryPathAtFileSystemRootHasOneSeparator()
     {
         ModuleFileName::overrideProgramFolder(QStringLiteral("/"));
-        QCOMPARE(basPLOVQuzr::PictureLibraryPath(), QStringLiteral("/PLOVQBmp.so"));
-        QCOMPARE(basPLOVQuzr::SoundLibraryPath(), QStringLiteral("/PLOVQSnd.so"));
+        QCOMPARE(Libraries::PictureLibraryPath(), QStringLiteral("/PLOVQBmp.so"));
+        QCOMPARE(Libraries::SoundLibraryPath(), QStringLiteral("/PLOVQSnd.so"));
         ScriptedMsgBox boxes;
-        basPLOVQuzr::Main();
+        basPLOVQuzr::Main(state_, libraries_);
         QCOMPARE(boxes.shown.size(), 2);
         QVERIFY(boxes.shown[0].text.startsWith(QStringLiteral("Unable to load /PLOVQBmp.so. ")));
         visibleWindowTitled(QStringLiteral("Select the question set to use"))->close();
@@ -210,14 +214,14 @@ private slots:
 
     void newClipCutsOffTheLast()
     {
-        FakeSoundControl fake;
+        FakeSoundControl fake(libraries_);
         FakeClock clock;
         forceRunningCompiled(true);
-        basPLOVQuzr::hSoundLib->InitSound(0);
+        libraries_.hSoundLib->InitSound(0);
 
-        PlayGameSound(101, false);
-        QVERIFY(basPLOVQuzr::hCurrentSound != 0);
-        PlayGameSound(104, false);
+        libraries_.PlayGameSound(101, false);
+        QVERIFY(libraries_.hCurrentSound != 0);
+        libraries_.PlayGameSound(104, false);
 
         QCOMPARE(fake.calls(), QStringList({QStringLiteral("InitSound"), QStringLiteral("LoadSound 101"),
                                             QStringLiteral("PlaySound 101"), QStringLiteral("UnloadSound 101"),
@@ -227,19 +231,19 @@ private slots:
 
     void waitingForTheEndDispatchesEventsAndSleeps()
     {
-        FakeSoundControl fake;
+        FakeSoundControl fake(libraries_);
         FakeClock clock;
         clock.onAdvance = [&](int ms) { fake.advance(ms); };
         forceRunningCompiled(true);
-        basPLOVQuzr::hSoundLib->InitSound(0);
+        libraries_.hSoundLib->InitSound(0);
         fake.setClipLength(102, 3000);
 
         bool timerRan = false;
         QTimer::singleShot(0, [&] { timerRan = true; });
-        PlayGameSound(102, true);
+        libraries_.PlayGameSound(102, true);
 
         QVERIFY(timerRan);
-        QCOMPARE(basPLOVQuzr::hCurrentSound, 0);
+        QCOMPARE(libraries_.hCurrentSound, 0);
         QVERIFY(fake.calls().endsWith(QStringLiteral("UnloadSound 102")));
         // The clip's 3 s passed in sleeps of a few milliseconds each, not
         // in thousands of empty polls.
@@ -253,18 +257,18 @@ private slots:
 
     void clipStartedWhileWaitingIsLeftPlaying()
     {
-        FakeSoundControl fake;
+        FakeSoundControl fake(libraries_);
         FakeClock clock;
         clock.onAdvance = [&](int ms) { fake.advance(ms); };
         forceRunningCompiled(true);
-        basPLOVQuzr::hSoundLib->InitSound(0);
+        libraries_.hSoundLib->InitSound(0);
         fake.setClipLength(105, 30000);
         fake.setClipLength(101, 5000);
-        QTimer::singleShot(0, [] { PlayGameSound(101, false); });
+        QTimer::singleShot(0, [this] { libraries_.PlayGameSound(101, false); });
 
-        PlayGameSound(105, true);
+        libraries_.PlayGameSound(105, true);
 
-        QVERIFY(basPLOVQuzr::hCurrentSound != 0);
+        QVERIFY(libraries_.hCurrentSound != 0);
         QVERIFY(clock.elapsedMs() < 1000);
         QCOMPARE(fake.calls().last(), QStringLiteral("PlaySound 101"));
     }
@@ -272,56 +276,56 @@ private slots:
     void silentInDevelopmentEnvironmentAndWithoutLibrary()
     {
         {
-            FakeSoundControl fake;
+            FakeSoundControl fake(libraries_);
             forceRunningCompiled(false);
-            basPLOVQuzr::hSoundLib->InitSound(0);
+            libraries_.hSoundLib->InitSound(0);
             fake.reset();
-            PlayGameSound(101, true);
+            libraries_.PlayGameSound(101, true);
             QVERIFY(fake.calls().isEmpty());
         }
         forceRunningCompiled(true);
-        QVERIFY(!basPLOVQuzr::hSoundLib);
-        PlayGameSound(101, true); // nothing to call, nothing to crash
-        QCOMPARE(basPLOVQuzr::hCurrentSound, 0);
+        QVERIFY(!libraries_.hSoundLib);
+        libraries_.PlayGameSound(101, true); // nothing to call, nothing to crash
+        QCOMPARE(libraries_.hCurrentSound, 0);
     }
 
     void failedLoadLeavesNoClip()
     {
-        FakeSoundControl fake;
+        FakeSoundControl fake(libraries_);
         FakeClock clock;
         forceRunningCompiled(true);
-        basPLOVQuzr::hSoundLib->InitSound(0);
-        PlayGameSound(103, false);
+        libraries_.hSoundLib->InitSound(0);
+        libraries_.PlayGameSound(103, false);
         fake.setLoadFails(108, true);
-        PlayGameSound(108, true);
-        QCOMPARE(basPLOVQuzr::hCurrentSound, 0);
+        libraries_.PlayGameSound(108, true);
+        QCOMPARE(libraries_.hCurrentSound, 0);
         QVERIFY(!fake.calls().contains(QStringLiteral("PlaySound 108")));
         QVERIFY(clock.waits.isEmpty());
     }
 
     void shutdownForgetsTheCurrentClip()
     {
-        FakeSoundControl fake;
+        FakeSoundControl fake(libraries_);
         forceRunningCompiled(true);
-        basPLOVQuzr::hSoundLib->InitSound(0);
-        PlayGameSound(106, false);
-        QVERIFY(basPLOVQuzr::hCurrentSound != 0);
-        basPLOVQuzr::hSoundLib->Shutdown();
-        QCOMPARE(basPLOVQuzr::hCurrentSound, 0);
+        libraries_.hSoundLib->InitSound(0);
+        libraries_.PlayGameSound(106, false);
+        QVERIFY(libraries_.hCurrentSound != 0);
+        libraries_.ShutdownSound();
+        QCOMPARE(libraries_.hCurrentSound, 0);
         // Without a new initialisation, loads fail and nothing is heard.
-        PlayGameSound(101, false);
-        QCOMPARE(basPLOVQuzr::hCurrentSound, 0);
+        libraries_.PlayGameSound(101, false);
+        QCOMPARE(libraries_.hCurrentSound, 0);
         QCOMPARE(fake.calls().last(), QStringLiteral("LoadSound 101 failed"));
     }
 
     void drawingWithoutPictureLibraryLeavesTargetUntouched()
     {
-        QVERIFY(!basPLOVQuzr::hPictureLib);
+        QVERIFY(!libraries_.hPictureLib);
         PictureBox box(QSize(30, 20));
         QImage before = box.image();
         before.fill(Qt::red);
         box.setImage(before);
-        DrawLibraryBitmap(box, 400);
+        libraries_.DrawLibraryBitmap(box, 400);
         QCOMPARE(box.size(), QSize(30, 20));
         QCOMPARE(box.image().pixelColor(5, 5), QColor(Qt::red));
     }

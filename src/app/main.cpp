@@ -1,5 +1,9 @@
-#include "shell/basPLOVQuzr.h"
+#include "game/GameState.h"
 #include "platform/MsgBox.h"
+#include "shell/Libraries.h"
+#include "ui/controls/QtFileDialog.h"
+#include "ui/controls/QtMsgBox.h"
+#include "ui/shell/basPLOVQuzr.h"
 
 #include <QApplication>
 
@@ -11,6 +15,13 @@ int main(int argc, char **argv)
     // and message boxes come and go in between: the program ends when the
     // home screen closes, not when no window happens to be open.
     QApplication::setQuitOnLastWindowClosed(false);
-    basPLOVQuzr::Main();
+    QtMsgBox boxes;
+    installMsgBoxHandler(&boxes);
+    QtFileDialog dialogs;
+    installFileDialogHandler(&dialogs);
+
+    GameState state;
+    Libraries libraries;
+    basPLOVQuzr::Main(state, libraries);
     return app.exec();
 }

@@ -1,9 +1,9 @@
 #include "TextFitting.h"
 
-#include "platform/CaptionControl.h"
-#include "questions/NumberText.h"
+#include "platform/NumberText.h"
 
 #include <QFontMetricsF>
+#include <QStringList>
 
 namespace {
 
@@ -70,20 +70,36 @@ QString WrapText(const QString &text, const QFont &font, int widthPixels)
     return result;
 }
 
-bool TextFits(const QFont &font, const QString &wrapped, qreal maxWidth, qreal maxHeight)
+qreal CaptionText::lineHeight(const QFont &font)
 {
-    return CaptionControl::textWidth(font, wrapped) <= maxWidth &&
-           CaptionControl::textHeight(font, wrapped) <= maxHeight;
+    return QFontMetricsF(font).height();
 }
 
-void CramText(const QString &S, CaptionControl &V, qreal FS, qreal MaxWidth, qreal MaxHeight)
+qreal CaptionText::width(const QFont &font, const QString &wrapped)
 {
-    if (S.isEmpty()) {
-        V.setCaption(QString()); // nothing to fit; the font stays as it was
-        return;
-    }
+    const QFontMetricsF fm(font);
+    qreal widest = 0;
+    for (const QString &line : wrapped.split(QLatin1Char('\n')))
+        widest = qMax(widest, fm.horizontalAdvance(line));
+    return widest;
+}
+
+qreal CaptionText::height(const QFont &font, const QString &wrapped)
+{
+    return lineHeight(font) * (wrapped.count(QLatin1Char('\n')) + 1);
+}
+
+bool TextFits(const QFont &font, const QString &wrapped, qreal maxWidth, qreal maxHeight)
+{
+    return CaptionText::width(font, wrapped) <= maxWidth && CaptionText::height(font, wrapped) <= maxHeight;
+}
+
+FittedText CramText(const QString &S, const QFont &startFont, qreal FS, qreal MaxWidth, qreal MaxHeight)
+{
+    if (S.isEmpty())
+        return {startFont.pointSizeF(), QString()}; // nothing to fit; the font stays as it was
     const int width = int(RoundHalfEven(MaxWidth));
-    QFont font = sized(V.font(), FS);
+    QFont font = sized(startFont, FS);
     auto wrapped = [&] { return WrapText(S, font, width); };
     auto fits = [&](const QString &t) { return TextFits(font, t, MaxWidth, MaxHeight); };
     auto size = [&] { return font.pointSizeF(); };
@@ -112,6 +128,5 @@ void CramText(const QString &S, CaptionControl &V, qreal FS, qreal MaxWidth, qre
         font = sized(font, low);
         T = wrapped();
     }
-    V.setFontSize(size());
-    V.setCaption(T);
+    return {size(), T};
 }

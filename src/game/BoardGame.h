@@ -1,14 +1,20 @@
 // The rules of play on one board, in plain C++: setting up each round,
 // tile presses, the answer screen's steps, the title parade, the answer
 // time-out, the scoring keys and the end of the game. The state of the
-// round lives here; the board form shows it (BoardView).
+// round lives here; every change of it is announced to any number of
+// watchers (the board form, and whatever else wants to follow the game),
+// while what only the board can do goes to its one BoardView.
 #pragma once
 
 #include "BoardView.h"
 
+#include <QObject>
 #include <QString>
 
 #include <array>
+
+struct GameState;
+class Libraries;
 
 struct BoardState {
     // A tile is in play while its caption is "$" and its value.
@@ -27,12 +33,21 @@ struct BoardState {
     bool paradeRunning = false;
 };
 
-class BoardGame {
+class BoardGame : public QObject {
+    Q_OBJECT
 public:
-    explicit BoardGame(BoardView &view);
+    BoardGame(BoardView &view, GameState &settings, Libraries &libraries);
 
-    BoardState &state() { return state_; }
     const BoardState &state() const { return state_; }
+    const GameState &settings() const { return settings_; }
+
+    // Before the first round: the number of scoring teams (0 to 10), every
+    // score back to 0.
+    void setTeams(int teams);
+
+    // The start of a game on a board that shows: the start sound (played
+    // to its end), then round 1.
+    void start();
 
     // Sets up the round named by Round (skipping absent or empty rounds),
     // or ends the game past the final.
@@ -52,13 +67,27 @@ public:
 
     void ShowAnswer(int index);
     void ShowQuestion(int index);
-    void setStepCode(const QString &code);
+
+signals:
+    void tileChanged(int tile);
+    void headerChanged(int column);
+    void stepCodeChanged();
+    // Team index 0..9.
+    void scoreChanged(int team);
+    void teamsChanged();
+    // A round is set up and shows (Round tells which: 1, 2 or 3).
+    void roundChanged();
+    // A tile was counted out of play or put back.
+    void tilesDoneChanged();
+    // The game is over: after the standings, or by the host's end key.
+    void gameEnded();
 
 private:
     void setUpOrdinaryRound();
     void setUpFinalRound();
     void nextRound();
     void EndOfGame();
+    void endGame();
 
     void specialPress(int tile);
     void openTile(int tile);
@@ -66,10 +95,15 @@ private:
     void columnCheck(int column);
     QString categoryTitle(int column) const;
     void setTile(int tile, const QString &caption);
+    void setHeader(int column, QString caption, QString tag);
+    void setStepCode(const QString &code);
+    void setTilesDone(int tilesDone);
 
     // Until the first round is set up (while the start sound plays), only
     // the end-game key counts.
     bool started_ = false;
     BoardView &view_;
+    GameState &settings_;
+    Libraries &libraries_;
     BoardState state_;
 };

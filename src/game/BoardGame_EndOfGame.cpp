@@ -5,12 +5,20 @@
 #include "GameRules.h"
 #include "GameState.h"
 #include "platform/MsgBox.h"
-#include "shell/SoundLibrary.h"
+#include "shell/Libraries.h"
 
 void BoardGame::EndOfGame()
 {
     if (state_.Teams >= 1)
-        MsgBox(StandingsText(state_.Teams, basPLOVQuzr::Scores), MsgBoxStyle::OKOnly, QStringLiteral("Scores"));
-    PlayGameSound(106, false);
-    view_.unload();
+        MsgBox(StandingsText(state_.Teams, settings_.Scores), MsgBoxStyle::OKOnly, QStringLiteral("Scores"));
+    libraries_.PlayGameSound(106, false);
+    endGame();
+}
+
+void BoardGame::endGame()
+{
+    if (view_.isUnloaded())
+        return;
+    emit gameEnded();
+    view_.Unload();
 }

@@ -7,7 +7,7 @@
 #include "GameState.h"
 #include "platform/Clock.h"
 #include "questions/GameReads.h"
-#include "shell/SoundLibrary.h"
+#include "shell/Libraries.h"
 #include "shell/basDetectDevEnv.h"
 
 namespace {
@@ -21,13 +21,27 @@ constexpr int kParadeHoldMs = 2500;
 void BoardGame::setTile(int tile, const QString &caption)
 {
     state_.tileCaption[size_t(tile)] = caption;
-    view_.tileChanged(tile);
+    emit tileChanged(tile);
+}
+
+// By value: a caller may move a title from caption to tag.
+void BoardGame::setHeader(int column, QString caption, QString tag)
+{
+    state_.headerCaption[size_t(column)] = std::move(caption);
+    state_.headerTag[size_t(column)] = std::move(tag);
+    emit headerChanged(column);
 }
 
 void BoardGame::setStepCode(const QString &code)
 {
     state_.stepCode = code;
-    view_.stepCodeChanged();
+    emit stepCodeChanged();
+}
+
+void BoardGame::setTilesDone(int tilesDone)
+{
+    settings_.TilesDone = qint16(tilesDone);
+    emit tilesDoneChanged();
 }
 
 QString BoardGame::categoryTitle(int column) const
@@ -46,9 +60,7 @@ void BoardGame::columnCheck(int column)
     // tile back and for the answer screen's category label.
     if (state_.headerCaption[size_t(column)].isEmpty())
         return;
-    state_.headerTag[size_t(column)] = state_.headerCaption[size_t(column)];
-    state_.headerCaption[size_t(column)].clear();
-    view_.headerChanged(column);
+    setHeader(column, QString(), state_.headerCaption[size_t(column)]);
 }
 
 void BoardGame::TilePress(int tile, bool leftButton, bool shiftCtrlAlt)
@@ -62,7 +74,7 @@ void BoardGame::TilePress(int tile, bool leftButton, bool shiftCtrlAlt)
     if (state_.tileCaption[size_t(tile)].isEmpty()) {
         // With scoring on, the host moves on to the next round this way
         // once the round's last question has been scored.
-        if (state_.Teams > 0 && basPLOVQuzr::TilesDone == 30)
+        if (state_.Teams > 0 && settings_.TilesDone == 30)
             nextRound();
         return;
     }
@@ -71,10 +83,9 @@ void BoardGame::TilePress(int tile, bool leftButton, bool shiftCtrlAlt)
 
 void BoardGame::specialPress(int tile)
 {
-    using basPLOVQuzr::TilesDone;
     const int column = Tiles::column(tile);
     if (!state_.tileCaption[size_t(tile)].isEmpty()) {
-        ++TilesDone;
+        setTilesDone(settings_.TilesDone + 1);
         setTile(tile, QString());
         columnCheck(column);
         return;
@@ -82,32 +93,29 @@ void BoardGame::specialPress(int tile)
     if (state_.headerCaption[size_t(column)].isEmpty()) {
         if (state_.headerTag[size_t(column)].isEmpty())
             return; // an empty column has no tiles to put back
-        state_.headerCaption[size_t(column)] = state_.headerTag[size_t(column)];
-        state_.headerTag[size_t(column)].clear();
-        view_.headerChanged(column);
+        setHeader(column, state_.headerTag[size_t(column)], QString());
     }
-    --TilesDone;
-    setTile(tile, Tiles::caption(tile, basPLOVQuzr::Round));
+    setTilesDone(settings_.TilesDone - 1);
+    setTile(tile, Tiles::caption(tile, settings_.Round));
 }
 
 void BoardGame::openTile(int tile)
 {
-    using namespace basPLOVQuzr;
     const int column = Tiles::column(tile);
     state_.LastClickTime = Clock::instance().now();
-    state_.CurrentValue = qint16(Tiles::value(tile, Round));
-    if (tile == DailyDouble1 || tile == DailyDouble2) {
-        PlayGameSound(101, false);
+    state_.CurrentValue = qint16(Tiles::value(tile, settings_.Round));
+    if (tile == settings_.DailyDouble1 || tile == settings_.DailyDouble2) {
+        libraries_.PlayGameSound(101, false);
         setStepCode(QStringLiteral("NO"));
         view_.setScreenCaption(QString());
         view_.setOverlayCaptions(categoryTitle(column), state_.tileCaption[size_t(tile)]);
-        view_.zoomFromTile(tile, PicIdDailyDouble);
+        view_.ZoomTV({ZoomSource::Tile, tile}, settings_.PicIdDailyDouble);
         setStepCode(MakeStepCode("SQ", tile));
         state_.CurrentValue = 100;
     } else {
         setStepCode(QStringLiteral("NO"));
         view_.screenTakesTile(tile);
-        view_.zoomFromTile(tile, PicIdScreen);
+        view_.ZoomTV({ZoomSource::Tile, tile}, settings_.PicIdScreen);
         view_.setOverlayCaptions(categoryTitle(column), state_.tileCaption[size_t(tile)]);
         ShowAnswer(tile);
         view_.showOverlay(column);
@@ -120,7 +128,6 @@ void BoardGame::openTile(int tile)
 
 void BoardGame::AnswerScreenPress()
 {
-    using namespace basPLOVQuzr;
     if (view_.isUnloaded() || !started_)
         return;
     const qint64 now = Clock::instance().now();
@@ -133,22 +140,22 @@ void BoardGame::AnswerScreenPress()
     if (step.code == QStringLiteral("FC")) {
         setStepCode(QStringLiteral("NO"));
         state_.CurrentValue = 100;
-        view_.rotate(PicIdFinal, PicIdScreen);
-        PlayGameSound(104, false);
-        view_.showOnScreen(GameReads::FinalTitle(QuestionFile));
+        view_.RotateTV(settings_.PicIdFinal, settings_.PicIdScreen);
+        libraries_.PlayGameSound(104, false);
+        view_.showOnScreen(GameReads::FinalTitle(settings_.QuestionFile));
         setStepCode(MakeStepCode("FQ", -1));
     } else if (step.code == QStringLiteral("FQ")) {
         setStepCode(QStringLiteral("NO"));
         view_.setScreenCaption(QString());
-        view_.rotate(PicIdScreen, PicIdScreen);
+        view_.RotateTV(settings_.PicIdScreen, settings_.PicIdScreen);
         ShowAnswer(-1);
         // The think music is the think time; presses meanwhile find "NO".
-        PlayGameSound(105, true);
+        libraries_.PlayGameSound(105, true);
         if (!view_.isUnloaded())
             setStepCode(MakeStepCode("SA", -1));
     } else if (step.code == QStringLiteral("SQ")) {
         const int tile = qBound(0, int(step.index), 29);
-        view_.rotate(PicIdDailyDouble, PicIdScreen);
+        view_.RotateTV(settings_.PicIdDailyDouble, settings_.PicIdScreen);
         view_.setCategoryCaption(categoryTitle(Tiles::column(tile)));
         ShowAnswer(tile);
         view_.showOverlay(Tiles::column(tile));
@@ -163,17 +170,16 @@ void BoardGame::AnswerScreenPress()
 
 void BoardGame::closeScreen()
 {
-    using namespace basPLOVQuzr;
     view_.hideScreen();
-    ++TilesDone;
-    if (TilesDone != 30)
+    setTilesDone(settings_.TilesDone + 1);
+    if (settings_.TilesDone != 30)
         return;
-    const qint16 round = Round;
-    if (Round == 1)
-        PlayGameSound(102, true);
+    const qint16 round = settings_.Round;
+    if (round == 1)
+        libraries_.PlayGameSound(102, true);
     // The jingle lets keys and presses through; one of them may already
     // have moved the game on.
-    if (view_.isUnloaded() || Round != round)
+    if (view_.isUnloaded() || settings_.Round != round)
         return;
     if (state_.Teams == 0)
         nextRound();
@@ -181,8 +187,7 @@ void BoardGame::closeScreen()
 
 void BoardGame::ShowAnswer(int index)
 {
-    using namespace basPLOVQuzr;
-    view_.showOnScreen(GameReads::Clue(QuestionFile, Round, index));
+    view_.showOnScreen(GameReads::Clue(settings_.QuestionFile, settings_.Round, index));
     if (index >= 0)
         view_.startAnswerTimer();
     else
@@ -191,15 +196,14 @@ void BoardGame::ShowAnswer(int index)
 
 void BoardGame::ShowQuestion(int index)
 {
-    using namespace basPLOVQuzr;
     view_.stopAnswerTimer();
-    view_.showOnScreen(GameReads::Response(QuestionFile, Round, index));
+    view_.showOnScreen(GameReads::Response(settings_.QuestionFile, settings_.Round, index));
 }
 
 void BoardGame::AnswerTimeout()
 {
     view_.stopAnswerTimer();
-    PlayGameSound(108, false);
+    libraries_.PlayGameSound(108, false);
 }
 
 void BoardGame::HeaderPress()
@@ -211,7 +215,9 @@ void BoardGame::HeaderPress()
     for (int c = 0; c < 6; ++c) {
         if (state_.headerCaption[size_t(c)].isEmpty())
             continue;
-        view_.zoomFromHeader(c, basPLOVQuzr::PicIdScreen); // locks the screen: "NO"
+        // The screen stays locked while a title shows.
+        setStepCode(QStringLiteral("NO"));
+        view_.ZoomTV({ZoomSource::Header, c}, settings_.PicIdScreen);
         Clock::instance().pause(kParadeHoldMs);
         view_.hideScreen();
     }

@@ -6,9 +6,10 @@
 #include "GameState.h"
 #include "platform/Clock.h"
 #include "questions/GameReads.h"
-#include "shell/SoundLibrary.h"
+#include "shell/Libraries.h"
 
-BoardGame::BoardGame(BoardView &view) : view_(view)
+BoardGame::BoardGame(BoardView &view, GameState &settings, Libraries &libraries)
+    : view_(view), settings_(settings), libraries_(libraries)
 {
     // The design's captions, until the first round replaces them.
     for (int i = 0; i < 30; ++i)
@@ -16,19 +17,36 @@ BoardGame::BoardGame(BoardView &view) : view_(view)
     state_.headerCaption.fill(QStringLiteral("PotPourri"));
 }
 
+void BoardGame::setTeams(int teams)
+{
+    state_.Teams = qint16(qBound(0, teams, 10));
+    settings_.Scores.fill(0);
+    emit teamsChanged();
+}
+
+void BoardGame::start()
+{
+    libraries_.PlayGameSound(107, true);
+    // The host may have ended the game while the start sound played.
+    if (view_.isUnloaded())
+        return;
+    settings_.Round = 1;
+    SetUpRound();
+}
+
 void BoardGame::nextRound()
 {
-    ++basPLOVQuzr::Round;
+    ++settings_.Round;
     SetUpRound();
 }
 
 void BoardGame::SetUpRound()
 {
-    using basPLOVQuzr::Round;
+    const qint16 Round = settings_.Round;
     started_ = true;
     Clock::instance().reseed();
     // Each absent round passes on to the next; the final is round 3.
-    if (Round < 4 && !GameReads::RoundExists(basPLOVQuzr::QuestionFile, Round)) {
+    if (Round < 4 && !GameReads::RoundExists(settings_.QuestionFile, Round)) {
         nextRound();
         return;
     }
@@ -42,30 +60,30 @@ void BoardGame::SetUpRound()
 
 void BoardGame::setUpOrdinaryRound()
 {
-    using namespace basPLOVQuzr;
     view_.hideGrid();
-    TilesDone = 0;
+    int done = 0;
     for (int c = 0; c < 6; ++c) {
-        const QString title = GameReads::ColumnTitle(QuestionFile, Round, c);
+        const QString title = GameReads::ColumnTitle(settings_.QuestionFile, settings_.Round, c);
         if (title.isEmpty())
-            TilesDone += 5;
-        state_.headerCaption[size_t(c)] = title;
-        state_.headerTag[size_t(c)].clear();
-        view_.headerChanged(c);
+            done += 5;
+        setHeader(c, title, QString());
     }
-    if (TilesDone == 30) {
+    setTilesDone(done);
+    if (done == 30) {
         nextRound();
         return;
     }
-    PlayGameSound(103, false);
+    libraries_.PlayGameSound(103, false);
     for (int i = 0; i < 30; ++i)
-        setTile(i, state_.headerCaption[size_t(Tiles::column(i))].isEmpty() ? QString() : Tiles::caption(i, Round));
-    const auto [first, second] = DrawDailyDoubles(state_.tileCaption, TilesDone, Clock::instance());
-    DailyDouble1 = first;
-    DailyDouble2 = second;
+        setTile(i, state_.headerCaption[size_t(Tiles::column(i))].isEmpty() ? QString()
+                                                                            : Tiles::caption(i, settings_.Round));
+    const auto [first, second] = DrawDailyDoubles(state_.tileCaption, settings_.TilesDone, Clock::instance());
+    settings_.DailyDouble1 = first;
+    settings_.DailyDouble2 = second;
+    emit roundChanged();
 
     view_.showBoardWindow();
-    view_.layOut();
+    view_.Form_Resize();
     view_.showHeaderRow();
     for (int r = 0; r < 5; ++r)
         view_.showTileRow(r);
@@ -76,16 +94,14 @@ void BoardGame::setUpFinalRound()
     view_.hideGrid();
     for (int i = 0; i < 30; ++i)
         setTile(i, QString());
-    for (int c = 0; c < 6; ++c) {
-        state_.headerCaption[size_t(c)].clear();
-        state_.headerTag[size_t(c)].clear();
-        view_.headerChanged(c);
-    }
+    for (int c = 0; c < 6; ++c)
+        setHeader(c, QString(), QString());
     view_.showGrid();
     // The final counts as the round's one remaining tile.
-    basPLOVQuzr::TilesDone = 29;
+    setTilesDone(29);
+    emit roundChanged();
     setStepCode(QStringLiteral("NO"));
     view_.setScreenCaption(QString());
-    view_.zoomFromTile(14, basPLOVQuzr::PicIdFinal);
+    view_.ZoomTV({ZoomSource::Tile, 14}, settings_.PicIdFinal);
     setStepCode(MakeStepCode("FC", -1));
 }

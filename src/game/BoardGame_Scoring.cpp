@@ -15,14 +15,14 @@ bool BoardGame::KeyDown(QChar letter, int digit, int modifiers)
         return false;
     switch (action.kind) {
     case KeyAction::EndGame:
-        view_.unload();
+        endGame();
         return true;
     case KeyAction::EndRound:
         nextRound();
         return true;
     case KeyAction::Score:
-        basPLOVQuzr::Scores[size_t(action.team - 1)] += state_.CurrentValue;
-        view_.scoreChanged(action.team - 1);
+        settings_.Scores[size_t(action.team - 1)] += state_.CurrentValue;
+        emit scoreChanged(action.team - 1);
         return true;
     case KeyAction::Swallow:
         return true;

@@ -1,32 +1,35 @@
-// What the game's rules need of the screen. The board form implements it;
-// the rules call it and never touch a widget themselves.
+// What the rules ask of the one board that shows them: bringing a round
+// into view, the answer screen's zoom, flip and texts, the answer timer and
+// the end of the board. Changes of state are not told here: the game
+// announces them to every watcher (BoardGame's signals).
 #pragma once
 
 #include <QString>
+
+// What the answer screen grows out of: a tile or a column header.
+struct ZoomSource {
+    enum Kind { Tile, Header } kind = Tile;
+    int index = 0;
+};
 
 class BoardView {
 public:
     virtual ~BoardView() = default;
 
-    // The state of a tile, a header or the answer screen's step code
-    // changed: show it.
-    virtual void tileChanged(int tile) = 0;
-    virtual void headerChanged(int column) = 0;
-    virtual void stepCodeChanged() = 0;
-    virtual void scoreChanged(int team) = 0;
-
     // Bringing a round's board into view.
     virtual void hideGrid() = 0;
     virtual void showGrid() = 0;
     virtual void showBoardWindow() = 0;
-    virtual void layOut() = 0;
+    virtual void Form_Resize() = 0;
     virtual void showHeaderRow() = 0;
     virtual void showTileRow(int row) = 0;
 
-    // The answer screen.
-    virtual void zoomFromTile(int tile, qint32 picture) = 0;
-    virtual void zoomFromHeader(int column, qint32 picture) = 0;
-    virtual void rotate(qint32 fromPicture, qint32 toPicture) = 0;
+    // The answer screen grows out of a tile or header to cover the board,
+    // showing picture PictureID; a header's title grows with it.
+    virtual void ZoomTV(ZoomSource source, qint32 PictureID) = 0;
+    // Folds the answer screen away showing PictureID1 and unfolds it
+    // showing PictureID2.
+    virtual void RotateTV(qint32 PictureID1, qint32 PictureID2) = 0;
     virtual void setScreenCaption(const QString &caption) = 0;
     // The screen takes a tile's font and caption, so its value grows out.
     virtual void screenTakesTile(int tile) = 0;
@@ -44,6 +47,6 @@ public:
     virtual void stopAnswerTimer() = 0;
 
     // Ends the board; the home screen comes back.
-    virtual void unload() = 0;
+    virtual void Unload() = 0;
     virtual bool isUnloaded() const = 0;
 };

@@ -1,6 +1,6 @@
 #include "GameRules.h"
 
-#include "questions/NumberText.h"
+#include "platform/NumberText.h"
 
 #include <algorithm>
 #include <vector>

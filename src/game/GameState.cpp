@@ -10,3 +10,11 @@ PictureIdSet pictureIdsForScreenWidth(double widthPixels)
     const qint32 base = widthPixels >= 950 ? 400 : widthPixels > 640 ? 300 : 200;
     return {base, base + 1, base + 2, base + 3};
 }
+
+void GameState::choosePictures(const PictureIdSet &ids)
+{
+    PicIdScreen = ids.screen;
+    PicIdDailyDouble = ids.dailyDouble;
+    PicIdFinal = ids.final;
+    PicIdBackdrop = ids.backdrop;
+}

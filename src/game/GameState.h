@@ -6,27 +6,34 @@
 
 #include <array>
 
-namespace basPLOVQuzr {
+// The four picture ids of the size class of a screen this many pixels wide.
+struct PictureIdSet {
+    qint32 screen, dailyDouble, final, backdrop;
+};
+PictureIdSet pictureIdsForScreenWidth(double widthPixels);
 
-// 1 and 2 are the ordinary rounds, 3 the final, 4 or more: the game is over.
-inline qint16 Round = 1;
-// Tiles of the current round that are out of play; 30 ends the round.
-inline qint16 TilesDone = 0;
-// Tile indices of the round's daily doubles; equal when it has only one.
-inline qint16 DailyDouble1 = 0;
-inline qint16 DailyDouble2 = 0;
-// Full path of the question set being played.
-inline QString QuestionFile;
-// Score of team i + 1 in entry i.
-inline std::array<qint32, 10> Scores{};
+// One for the whole run, handed by reference to whoever plays or shows it.
+struct GameState {
+    // 1 and 2 are the ordinary rounds, 3 the final, 4 or more: the game is over.
+    qint16 Round = 1;
+    // Tiles of the current round that are out of play; 30 ends the round.
+    qint16 TilesDone = 0;
+    // Tile indices of the round's daily doubles; equal when it has only one.
+    qint16 DailyDouble1 = 0;
+    qint16 DailyDouble2 = 0;
+    // Full path of the question set being played.
+    QString QuestionFile;
+    // Score of team i + 1 in entry i.
+    std::array<qint32, 10> Scores{};
 
-// The picture set chosen at start-up for the screen's size class.
-inline qint32 PicIdScreen = 400;
-inline qint32 PicIdDailyDouble = 401;
-inline qint32 PicIdFinal = 402;
-inline qint32 PicIdBackdrop = 403;
+    // The picture set chosen at start-up for the screen's size class.
+    qint32 PicIdScreen = 400;
+    qint32 PicIdDailyDouble = 401;
+    qint32 PicIdFinal = 402;
+    qint32 PicIdBackdrop = 403;
 
-} // namespace basPLOVQuzr
+    void choosePictures(const PictureIdSet &ids);
+};
 
 namespace Tiles {
 
@@ -44,9 +51,3 @@ constexpr int value(int tile, int round) { return (row(tile) + 1) * round * 100;
 QString caption(int tile, int round);
 
 } // namespace Tiles
-
-// The four picture ids of the size class of a screen this many pixels wide.
-struct PictureIdSet {
-    qint32 screen, dailyDouble, final, backdrop;
-};
-PictureIdSet pictureIdsForScreenWidth(double widthPixels);

@@ -1,14 +1,8 @@
 #include "FileDialog.h"
 
-#include "questions/clsOpenSaveDlgFlags.h"
-
-#include <QFileDialog>
-#include <QFileInfo>
-#include <QMessageBox>
+#include <QStringList>
 
 namespace {
-
-using Flags = clsOpenSaveDlgFlags;
 
 // "*.QZ2" -> "*.[Qq][Zz]2": the game's files come in any letter case.
 QString anyCase(const QString &pattern)
@@ -22,78 +16,6 @@ QString anyCase(const QString &pattern)
     }
     return out;
 }
-
-// Qt reads a filter's patterns from its last parentheses; the description
-// shows alone (HideNameFilterDetails), as the game wrote it.
-QStringList nameFilters(const FileDialogRequest &r)
-{
-    QStringList filters;
-    for (const auto &[description, patterns] : r.filters)
-        filters << description + QStringLiteral(" (") + CaseInsensitivePatterns(patterns).join(QLatin1Char(' ')) +
-                       QLatin1Char(')');
-    return filters;
-}
-
-class QtFileDialog final : public FileDialogHandler {
-public:
-    FileDialogResult run(const FileDialogRequest &r) override
-    {
-        QFileDialog dialog(r.owner);
-        dialog.setOption(QFileDialog::DontUseNativeDialog);
-        dialog.setAcceptMode(r.save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
-        dialog.setFileMode(fileMode(r));
-        dialog.setOption(QFileDialog::DontConfirmOverwrite, !(r.flags & Flags::OFN_OVERWRITEPROMPT));
-        if (!r.title.isEmpty())
-            dialog.setWindowTitle(r.title);
-        if (!r.initialDir.isEmpty())
-            dialog.setDirectory(r.initialDir);
-        const QStringList filters = nameFilters(r);
-        if (!filters.isEmpty()) {
-            dialog.setOption(QFileDialog::HideNameFilterDetails);
-            dialog.setNameFilters(filters);
-            dialog.selectNameFilter(filters.value(qMax(0, r.filterIndex - 1)));
-        }
-        if (!r.defaultExtension.isEmpty())
-            dialog.setDefaultSuffix(r.defaultExtension);
-        if (!r.fileName.isEmpty())
-            dialog.selectFile(r.fileName);
-        for (;;) {
-            if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
-                return {};
-            const QString path = dialog.selectedFiles().first();
-            if (acceptable(r, path, &dialog))
-                return {true, path, int(dialog.nameFilters().indexOf(dialog.selectedNameFilter())) + 1};
-        }
-    }
-
-private:
-    static QFileDialog::FileMode fileMode(const FileDialogRequest &r)
-    {
-        if (r.save)
-            return QFileDialog::AnyFile;
-        if (r.flags & Flags::OFN_ALLOWMULTISELECT)
-            return QFileDialog::ExistingFiles;
-        return r.flags & Flags::OFN_FILEMUSTEXIST ? QFileDialog::ExistingFile : QFileDialog::AnyFile;
-    }
-
-    // The checks the common dialogs made before letting a name through.
-    static bool acceptable(const FileDialogRequest &r, const QString &path, QWidget *dialog)
-    {
-        const QFileInfo file(path);
-        if (r.save && (r.flags & Flags::OFN_NOREADONLYRETURN) && file.exists() && !file.isWritable()) {
-            QMessageBox::warning(dialog, dialog->windowTitle(),
-                                 path + QStringLiteral("\nThis file is set to read-only.\nTry again with a different file name."));
-            return false;
-        }
-        if (!r.save && !file.exists() && (r.flags & Flags::OFN_CREATEPROMPT) &&
-            !(r.flags & Flags::OFN_FILEMUSTEXIST)) {
-            return QMessageBox::question(dialog, dialog->windowTitle(),
-                                         path + QStringLiteral("\nThis file does not exist.\nDo you want to create it?")) ==
-                   QMessageBox::Yes;
-        }
-        return true;
-    }
-};
 
 FileDialogHandler *installed = nullptr;
 
@@ -109,8 +31,8 @@ QStringList CaseInsensitivePatterns(const QString &patterns)
 
 FileDialogResult RunFileDialog(const FileDialogRequest &request)
 {
-    static QtFileDialog real;
-    return (installed ? *installed : real).run(request);
+    // Without a handler there is nobody to choose: a cancel.
+    return installed ? installed->run(request) : FileDialogResult{};
 }
 
 void installFileDialogHandler(FileDialogHandler *handler)

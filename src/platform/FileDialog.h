@@ -7,13 +7,15 @@
 #include <QString>
 #include <QStringList>
 
+#include <cstdint>
+
 #include <utility>
 
-class QWidget;
+
 
 struct FileDialogRequest {
     bool save = false;
-    QWidget *owner = nullptr;
+    uintptr_t ownerWindow = 0;  // window id of the owner; 0 = none
     QString title;             // "" = the dialog's own title
     QString initialDir;        // "" = the dialog's own choice
     QString fileName;          // proposed name
@@ -37,7 +39,8 @@ public:
 
 FileDialogResult RunFileDialog(const FileDialogRequest &request);
 
-// Installs a handler (not owned); nullptr goes back to the real dialogs.
+// Installs a handler (not owned). The game installs Qt's dialog at start-up;
+// without a handler every dialog is cancelled.
 void installFileDialogHandler(FileDialogHandler *handler);
 
 // A pattern list ("*.QZ2;*.QZA") as the dialog matches it: any letter case.

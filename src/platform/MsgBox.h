@@ -39,5 +39,6 @@ public:
 // shows the application title.
 MsgBoxResult MsgBox(const QString &text, int style = MsgBoxStyle::OKOnly, const QString &caption = QString());
 
-// Installs a handler (not owned); nullptr goes back to real boxes.
+// Installs a handler (not owned). The game installs Qt's boxes at start-up;
+// without a handler every box answers with its first button.
 void installMsgBoxHandler(MsgBoxHandler *handler);

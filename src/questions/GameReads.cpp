@@ -1,6 +1,6 @@
 #include "GameReads.h"
 
-#include "NumberText.h"
+#include "platform/NumberText.h"
 #include "platform/GetPrivateProfileString.h"
 
 namespace GameReads {

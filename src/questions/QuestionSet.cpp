@@ -1,6 +1,6 @@
 #include "QuestionSet.h"
 
-#include "NumberText.h"
+#include "platform/NumberText.h"
 #include "platform/GetPrivateProfileString.h"
 #include "platform/ModuleFileName.h"
 #include "platform/Windows1252.h"

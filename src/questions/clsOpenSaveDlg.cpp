@@ -2,7 +2,6 @@
 
 #include "platform/FileDialog.h"
 
-#include <QWidget>
 
 namespace {
 
@@ -105,7 +104,7 @@ bool clsOpenSaveDlg::show(bool save)
 {
     FileDialogRequest r;
     r.save = save;
-    r.owner = owner_ ? QWidget::find(WId(owner_)) : nullptr;
+    r.ownerWindow = owner_;
     r.title = title_;
     r.initialDir = initialDir_;
     r.fileName = FileName();

@@ -3,7 +3,7 @@
 // the chosen path, or parts of it, back. A fresh instance serves each use.
 #pragma once
 
-#include "clsOpenSaveDlgFlags.h"
+#include "platform/clsOpenSaveDlgFlags.h"
 
 #include <QString>
 

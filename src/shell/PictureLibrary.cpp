@@ -1,18 +1,15 @@
 #include "PictureLibrary.h"
 
-#include "platform/PictureBox.h"
-
 PictureLibrary::PictureLibrary(LoadedLibrary library) : library_(std::move(library)) {}
 
-PictureLibrary *PictureLibrary::load(const QString &absolutePath)
+std::unique_ptr<PictureLibrary> PictureLibrary::load(const QString &absolutePath)
 {
     LoadedLibrary library = LoadLibraryFrom(absolutePath);
     if (!library)
         return nullptr;
-    auto *pictures = new PictureLibrary(std::move(library));
+    std::unique_ptr<PictureLibrary> pictures(new PictureLibrary(std::move(library)));
     pictures->loadBitmap_ = reinterpret_cast<decltype(loadBitmap_)>(pictures->library_->resolve("PLOV_LoadBitmap"));
     if (!pictures->loadBitmap_) {
-        delete pictures;
         return nullptr;
     }
     return pictures;
@@ -31,13 +28,4 @@ QImage PictureLibrary::bitmap(int32_t id) const
     if (!image.isNull())
         decoded_.insert(id, image);
     return image;
-}
-
-void DrawLibraryBitmap(PictureBox &target, int32_t id)
-{
-    if (!basPLOVQuzr::hPictureLib)
-        return;
-    const QImage picture = basPLOVQuzr::hPictureLib->bitmap(id);
-    if (!picture.isNull())
-        target.setImage(picture);
 }

@@ -1,38 +1,40 @@
 #include "FakeSoundControl.h"
 
-#include "shell/SoundLibrary.h"
+#include "shell/Libraries.h"
 
 #include <QtTest>
 
 template <typename F>
 F FakeSoundControl::fn(const char *name) const
 {
-    auto f = reinterpret_cast<F>(basPLOVQuzr::hSoundLib->module().resolve(name));
+    auto f = reinterpret_cast<F>(control_.resolve(name));
     if (!f)
         qFatal("fake sound library lacks %s", name);
     return f;
 }
 
-FakeSoundControl::FakeSoundControl()
+FakeSoundControl::FakeSoundControl(Libraries &libraries)
+    : libraries_(libraries), control_(QStringLiteral(FAKE_SOUND_LIBRARY))
 {
-    delete basPLOVQuzr::hSoundLib;
-    basPLOVQuzr::hSoundLib = SoundLibrary::load(QStringLiteral(FAKE_SOUND_LIBRARY));
-    if (!basPLOVQuzr::hSoundLib)
+    if (!control_.load())
         qFatal("cannot load the fake sound library " FAKE_SOUND_LIBRARY);
+    libraries_.hSoundLib = SoundLibrary::load(QStringLiteral(FAKE_SOUND_LIBRARY));
+    if (!libraries_.hSoundLib)
+        qFatal("cannot bind the fake sound library " FAKE_SOUND_LIBRARY);
     reset();
 }
 
 FakeSoundControl::~FakeSoundControl()
 {
-    delete basPLOVQuzr::hSoundLib;
-    basPLOVQuzr::hSoundLib = nullptr;
-    basPLOVQuzr::hCurrentSound = 0;
+    libraries_.hSoundLib.reset();
+    libraries_.hCurrentSound = 0;
+    control_.unload();
 }
 
 void FakeSoundControl::reset()
 {
     fn<void (*)()>("FakeSnd_Reset")();
-    basPLOVQuzr::hCurrentSound = 0;
+    libraries_.hCurrentSound = 0;
 }
 
 QStringList FakeSoundControl::calls() const
@@ -63,6 +65,15 @@ void FakeSoundControl::setLoadFails(int soundId, bool fails)
 
 void FakeSoundControl::advance(int ms)
 {
-    if (basPLOVQuzr::hSoundLib)
-        fn<void (*)(int)>("FakeSnd_Advance")(ms);
+    fn<void (*)(int)>("FakeSnd_Advance")(ms);
+}
+
+QStringList FakeSoundControl::played() const
+{
+    QStringList sounds;
+    for (const QString &call : calls()) {
+        if (call.startsWith(QStringLiteral("PlaySound ")))
+            sounds << call.mid(10);
+    }
+    return sounds;
 }

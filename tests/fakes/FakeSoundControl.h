@@ -2,18 +2,22 @@
 // sound library and reads back what the game asked of it.
 #pragma once
 
+#include <QLibrary>
 #include <QString>
 #include <QStringList>
+
+class Libraries;
 
 class FakeSoundControl {
 public:
     // Loads the fake as the game's sound library (hSoundLib) and clears it.
-    FakeSoundControl();
-    // Releases the library again (hSoundLib = nullptr).
+    explicit FakeSoundControl(Libraries &libraries);
+    // Releases the library again (hSoundLib empty).
     ~FakeSoundControl();
 
     void reset();
     QStringList calls() const;        // "InitSound", "LoadSound 101", "PlaySound 101", ...
+    QStringList played() const;       // the clips played, in order: "103", "101", ...
     int statusPolls() const;
     void setInitFailures(int count);
     void setClipLength(int soundId, int ms);
@@ -23,4 +27,9 @@ public:
 private:
     template <typename F>
     F fn(const char *name) const;
+
+    Libraries &libraries_;
+    // The test's own handle on the same module: its controls keep working
+    // when the game releases its library.
+    mutable QLibrary control_;
 };

@@ -4,9 +4,9 @@
 
 #include "board/TextFitting.h"
 #include "game/GameState.h"
-#include "game/frmMain.h"
-#include "platform/CaptionControl.h"
-#include "shell/PictureLibrary.h"
+#include "ui/board/frmMain.h"
+#include "ui/controls/CaptionControl.h"
+#include "shell/Libraries.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -17,12 +17,19 @@ namespace {
 const char *kTitles[] = {"Animal Kingdom", "Around the House", "Colors", "Numbers Game", "Music Notes",
                          "A Rather Long Category Title Indeed"};
 
-void useClass(int width)
-{
-    const PictureIdSet ids = pictureIdsForScreenWidth(width);
-    basPLOVQuzr::PicIdScreen = ids.screen;
-    basPLOVQuzr::PicIdBackdrop = ids.backdrop;
-}
+// The board with its controls in reach of the benchmark.
+class BenchBoard : public frmMain {
+public:
+    using frmMain::frmMain;
+    using frmMain::Form_Resize;
+    using frmMain::RotateTV;
+    using frmMain::vseCategory;
+    using frmMain::vseCategory_RealignFrame;
+    using frmMain::vseQuestion;
+    using frmMain::vseQuestion_RealignFrame;
+    using frmMain::vseTV;
+    using frmMain::ZoomTV;
+};
 
 } // namespace
 
@@ -31,11 +38,13 @@ int main(int argc, char **argv)
     QApplication app(argc, argv);
     QFont::insertSubstitution(QStringLiteral("Arial"), QStringLiteral("Liberation Sans"));
     QTextStream out(stdout);
-    basPLOVQuzr::hPictureLib = PictureLibrary::load(QStringLiteral(QUIZZARR_PROGRAM_DIR "/PLOVQBmp.so"));
+    GameState state;
+    Libraries libraries;
+    libraries.hPictureLib = PictureLibrary::load(QStringLiteral(QUIZZARR_PROGRAM_DIR "/PLOVQBmp.so"));
     const QList<QSize> sizes{{1024, 768}, {1920, 1080}, {3840, 2160}};
     for (const QSize &size : sizes) {
-        useClass(size.width());
-        frmMain board;
+        state.choosePictures(pictureIdsForScreenWidth(size.width()));
+        BenchBoard board(state, libraries);
         for (int c = 0; c < 6; ++c)
             board.vseCategory[size_t(c)]->setCaption(QString::fromLatin1(kTitles[c]));
         board.resize(size);
@@ -63,10 +72,10 @@ int main(int argc, char **argv)
             << QString::number(total / kRounds / 1e6, 'f', 2) << " ms (a whole paint: " << paint << " ms)\n";
 
         t.start();
-        board.ZoomTV(board.vseQuestion[14], basPLOVQuzr::PicIdScreen);
+        board.ZoomTV({ZoomSource::Tile, 14}, state.PicIdScreen);
         const qint64 zoom = t.elapsed();
         t.start();
-        board.RotateTV(basPLOVQuzr::PicIdScreen, basPLOVQuzr::PicIdScreen);
+        board.RotateTV(state.PicIdScreen, state.PicIdScreen);
         out << "  zoom: " << zoom << " ms (125 of them pauses); flip: " << t.elapsed()
             << " ms (18 frames of at least 16 ms)\n";
         board.vseTV->hide();
@@ -78,12 +87,12 @@ int main(int argc, char **argv)
             clue.truncate(1999);
             const QSizeF tv = board.boardSize();
             t.start();
-            CramText(clue, *board.vseTV, board.vseQuestion[0]->fontSize(), 0.8 * tv.width(), 0.75 * tv.height());
+            board.vseTV->showFitted(CramText(clue, board.vseTV->font(), board.vseQuestion[0]->fontSize(), 0.8 * tv.width(), 0.75 * tv.height()));
             out << "a 1,999-character clue into the answer screen at 3840x2160: " << t.elapsed() << " ms ("
                 << board.vseTV->fontSize() << " pt)\n";
             const QString short200 = clue.left(200);
             t.start();
-            CramText(short200, *board.vseTV, board.vseQuestion[0]->fontSize(), 0.8 * tv.width(), 0.75 * tv.height());
+            board.vseTV->showFitted(CramText(short200, board.vseTV->font(), board.vseQuestion[0]->fontSize(), 0.8 * tv.width(), 0.75 * tv.height()));
             out << "a 200-character clue: " << t.elapsed() << " ms (" << board.vseTV->fontSize() << " pt)\n";
         }
     }

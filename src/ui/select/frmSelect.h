@@ -2,7 +2,7 @@
 // way to the game, the editor and the help. Closing it ends the program.
 #pragma once
 
-#include "game/frmMain.h"
+#include "ui/board/frmMain.h"
 #include "platform/PictureBox.h"
 
 #include <QImage>
@@ -23,7 +23,7 @@ class frmSelect : public QWidget {
 public:
     // Form_Load: sized 640 x 480 and centred, the list filled, "Three teams"
     // chosen and the first entry selected.
-    explicit frmSelect(QWidget *parent = nullptr);
+    frmSelect(GameState &state, Libraries &libraries, QWidget *parent = nullptr);
     ~frmSelect() override;
 
     QListWidget *lstQuestions = nullptr;
@@ -79,9 +79,10 @@ private:
     QString documentsFolder() const;
     QListWidgetItem *selectedEntry() const;
     bool checkSelectedEntry();
-    void startBoard();
     void comeBack();
 
+    GameState &state_;
+    Libraries &libraries_;
     QImage banner_;
     QPointer<frmMain> board_;
     QPointer<QWidget> editor_;

@@ -6,6 +6,8 @@
 // children placed in proportion to their design rectangles.
 #pragma once
 
+#include "board/TextFitting.h"
+
 #include <QColor>
 #include <QImage>
 #include <QPixmap>
@@ -60,11 +62,8 @@ public:
     // off draws the smooth picture again.
     void setFastScaling(bool fast);
 
-    // The caption's lines laid out as drawn: the height of one line, and
-    // the widest line, in this font. Text fitting measures the same way.
-    static qreal lineHeight(const QFont &font);
-    static qreal textWidth(const QFont &font, const QString &wrapped);
-    static qreal textHeight(const QFont &font, const QString &wrapped);
+    // Shows a text fitted by CramText: its size, then its lines.
+    void showFitted(const FittedText &fitted);
 
 signals:
     void resized();

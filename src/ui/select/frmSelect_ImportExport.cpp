@@ -3,9 +3,9 @@
 
 #include "frmSelect.h"
 
-#include "QuestionSetList.h"
-#include "clsShellFolders.h"
-#include "platform/CommandButton.h"
+#include "select/QuestionSetList.h"
+#include "platform/clsShellFolders.h"
+#include "ui/controls/CommandButton.h"
 #include "platform/ModuleFileName.h"
 #include "platform/MsgBox.h"
 #include "platform/SpecialFolders.h"

@@ -2,23 +2,20 @@
 
 #include "frmMain.h"
 
-#include "GameState.h"
-#include "board/ShadowLabel.h"
-#include "platform/CaptionControl.h"
-#include "platform/FormLook.h"
+#include "game/GameState.h"
+#include "ui/controls/ShadowLabel.h"
+#include "ui/controls/CaptionControl.h"
+#include "ui/controls/FormLook.h"
 #include "platform/MsgBox.h"
 #include "questions/GameReads.h"
-#include "shell/PictureLibrary.h"
-#include "shell/SoundLibrary.h"
+#include "shell/Libraries.h"
+#include "shell/basDetectDevEnv.h"
 
 #include <QCloseEvent>
 #include <QTimer>
 
-namespace {
-
-} // namespace
-
-frmMain::frmMain(QWidget *parent) : QWidget(parent)
+frmMain::frmMain(GameState &state, Libraries &libraries, QWidget *parent)
+    : QWidget(parent), state_(state), libraries_(libraries)
 {
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(applicationTitle());
@@ -28,11 +25,30 @@ frmMain::frmMain(QWidget *parent) : QWidget(parent)
 
     startSound();
     tmrQuestion->stop();
-    tmrQuestion->setInterval(GameReads::AnswerTimerMs(basPLOVQuzr::QuestionFile));
+    tmrQuestion->setInterval(GameReads::AnswerTimerMs(state_.QuestionFile));
     setTileFaces();
 }
 
 frmMain::~frmMain() = default;
+
+void frmMain::warnBeforeStart(const Libraries &libraries)
+{
+    if (libraries.hSoundLib && basDetectDevEnv::IsRunningCompiled())
+        MsgBox(QStringLiteral("Please wait until all sounds playing have stopped, then click OK to start!"),
+               MsgBoxStyle::OKOnly | MsgBoxStyle::Exclamation, applicationTitle());
+}
+
+bool frmMain::start(int teams)
+{
+    Busy busy(*this);
+    game_.setTeams(teams);
+    PrepareTeamLabels(game_.state().Teams);
+    Form_Resize();
+    showOnWholeScreen();
+    repaint();
+    game_.start();
+    return !unloaded_;
+}
 
 void frmMain::createControls()
 {
@@ -41,30 +57,36 @@ void frmMain::createControls()
     createAnswerScreen();
     LoadTeamLabel(0);
     tmrQuestion = new QTimer(this);
+    tmrQuestion->setObjectName(QStringLiteral("tmrQuestion"));
     connectControls();
+    watchGame();
 }
 
 void frmMain::createTiles()
 {
     vseCategories = new CaptionControl(area_);
+    vseCategories->setObjectName(QStringLiteral("vseCategories"));
     vseCategories->setDesignSize(QSizeF(6, 1));
     for (int c = 0; c < 6; ++c) {
         auto *header = new CaptionControl;
         header->setFont(ArialFont(8, true));
-        header->setCaption(game.state().headerCaption[size_t(c)]);
+        header->setCaption(game_.state().headerCaption[size_t(c)]);
+        header->setObjectName(QStringLiteral("vseCategory(%1)").arg(c));
         vseCategories->addChild(header, QRectF(c, 0, 1, 1));
         vseCategory[size_t(c)] = header;
     }
     for (int r = 0; r < 5; ++r) {
         auto *row = new CaptionControl(area_);
         row->setDesignSize(QSizeF(6, 1));
+        row->setObjectName(QStringLiteral("vseQuestions(%1)").arg(r));
         vseQuestions[size_t(r)] = row;
         for (int c = 0; c < 6; ++c) {
             const int i = r * 6 + c;
             auto *tile = new CaptionControl;
             tile->setFont(ArialFont(8, true));
             tile->setTextColor(kValueGold);
-            tile->setCaption(game.state().tileCaption[size_t(i)]);
+            tile->setCaption(game_.state().tileCaption[size_t(i)]);
+            tile->setObjectName(QStringLiteral("vseQuestion(%1)").arg(i));
             row->addChild(tile, QRectF(c, 0, 1, 1));
             vseQuestion[size_t(i)] = tile;
         }
@@ -74,19 +96,22 @@ void frmMain::createTiles()
 void frmMain::createAnswerScreen()
 {
     vseTV = new CaptionControl(area_);
+    vseTV->setObjectName(QStringLiteral("vseTV"));
     vseTV->setFont(ArialFont(8, true));
     vseTV->hide();
     lblCategory = new ShadowLabel(vseTV);
+    lblCategory->setObjectName(QStringLiteral("lblCategory"));
     lblCategory->setCaption(QStringLiteral("Category"));
     lblCategory->hide();
     lblValue = new ShadowLabel(vseTV);
+    lblValue->setObjectName(QStringLiteral("lblValue"));
     lblValue->setCaption(QStringLiteral("Value"));
     lblValue->hide();
 }
 
 void frmMain::startSound()
 {
-    using basPLOVQuzr::hSoundLib;
+    const std::unique_ptr<SoundLibrary> &hSoundLib = libraries_.hSoundLib;
     if (!hSoundLib)
         return;
     while (hSoundLib->InitSound(uintptr_t(winId())) != 0) {
@@ -102,7 +127,7 @@ void frmMain::startSound()
 
 void frmMain::setTileFaces()
 {
-    DrawLibraryBitmap(picText, basPLOVQuzr::PicIdScreen);
+    libraries_.DrawLibraryBitmap(picText, state_.PicIdScreen);
     const QImage face = picText.image();
     for (CaptionControl *header : vseCategory)
         header->setPicture(face);
@@ -112,8 +137,9 @@ void frmMain::setTileFaces()
 
 void frmMain::LoadTeamLabel(int i)
 {
-    auto make = [&](QWidget *parent, QList<ShadowLabel *> &array, const QString &caption) {
+    auto make = [&](QWidget *parent, QList<ShadowLabel *> &array, const char *name, const QString &caption) {
         auto *label = new ShadowLabel(parent);
+        label->setObjectName(QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(i));
         if (i > 0) {
             const ShadowLabel *first = array.first();
             label->setFont(first->font());
@@ -124,10 +150,10 @@ void frmMain::LoadTeamLabel(int i)
         array.append(label);
     };
     const QString team = QStringLiteral("Team %1:").arg(i + 1);
-    make(area_, lblTeam, team);
-    make(area_, lblScore, QStringLiteral("$0"));
-    make(vseTV, lblTeam2, team);
-    make(vseTV, lblScore2, QStringLiteral("$0"));
+    make(area_, lblTeam, "lblTeam", team);
+    make(area_, lblScore, "lblScore", QStringLiteral("$0"));
+    make(vseTV, lblTeam2, "lblTeam2", team);
+    make(vseTV, lblScore2, "lblScore2", QStringLiteral("$0"));
 }
 
 void frmMain::UnloadTeamLabel(int i)
@@ -160,8 +186,7 @@ void frmMain::Unload()
         return;
     unloaded_ = true;
     tmrQuestion->stop();
-    if (basPLOVQuzr::hSoundLib)
-        basPLOVQuzr::hSoundLib->Shutdown();
+    libraries_.ShutdownSound();
     hide();
     emit unloaded();
     // A handler of this board may still be running (a wait for a sound, a

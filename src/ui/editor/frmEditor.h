@@ -7,7 +7,7 @@
 // categories and fields (frmEditor_Fields.cpp).
 #pragma once
 
-#include "QuestionSet.h"
+#include "questions/QuestionSet.h"
 
 #include <QHash>
 #include <QList>

@@ -3,13 +3,13 @@
 
 #include "frmMain.h"
 
-#include "GameState.h"
-#include "board/Backdrop.h"
-#include "board/ShadowLabel.h"
+#include "game/GameState.h"
+#include "ui/controls/Backdrop.h"
+#include "ui/controls/ShadowLabel.h"
 #include "board/TextFitting.h"
-#include "platform/CaptionControl.h"
-#include "platform/FormLook.h"
-#include "shell/PictureLibrary.h"
+#include "ui/controls/CaptionControl.h"
+#include "ui/controls/FormLook.h"
+#include "shell/Libraries.h"
 
 #include <QPaintEvent>
 #include <QPainter>
@@ -29,11 +29,11 @@ void frmMain::Form_Resize()
     area_->setGeometry(boardArea());
     const qreal W = area_->width();
 
-    DrawLibraryBitmap(picText, basPLOVQuzr::PicIdBackdrop);
-    banner_ = basPLOVQuzr::hPictureLib ? picText.image() : QImage();
+    libraries_.DrawLibraryBitmap(picText, state_.PicIdBackdrop);
+    banner_ = libraries_.hPictureLib ? picText.image() : QImage();
 
-    const QFont reference = ArialFont(ReferencePointSize(basPLOVQuzr::PicIdBackdrop, W), true);
-    geometry_ = LayOutBoard(W, CaptionControl::lineHeight(reference));
+    const QFont reference = ArialFont(ReferencePointSize(state_.PicIdBackdrop, W), true);
+    geometry_ = LayOutBoard(W, CaptionText::lineHeight(reference));
     scaleBanner();
     layOutTeamLabels(reference.pointSizeF());
 
@@ -58,7 +58,7 @@ void frmMain::layOutTeamLabels(qreal referencePoints)
         lblTeam[i]->setFontSize(points);
         lblScore[i]->setFontSize(points);
         lblTeam[i]->setCaption(QStringLiteral("Team %1:").arg(i + 1));
-        lblScore[i]->setCaption(QStringLiteral("$ ") + QString::number(basPLOVQuzr::Scores[size_t(i)]));
+        lblScore[i]->setCaption(QStringLiteral("$ ") + QString::number(state_.Scores[size_t(i)]));
         lblTeam[i]->setGeometry(qRound(team.x()), qRound(team.y()), lblTeam[i]->captionWidth(), h);
         lblScore[i]->setGeometry(qRound(score.x()), qRound(score.y()), lblScore[i]->captionWidth(), h);
         // The answer screen's copies sit further in, at the same heights.
@@ -87,13 +87,13 @@ void frmMain::scaleBanner()
 void frmMain::vseCategory_RealignFrame(int Index)
 {
     CaptionControl *header = vseCategory[size_t(Index)];
-    CramText(header->caption(), *header, 8, 0.8 * header->width(), 0.8 * header->height());
+    header->showFitted(CramText(header->caption(), header->font(), 8, 0.8 * header->width(), 0.8 * header->height()));
 }
 
 void frmMain::vseQuestion_RealignFrame(int Index)
 {
     CaptionControl *tile = vseQuestion[size_t(Index)];
-    CramText(tile->caption(), *tile, 8, 0.8 * tile->width(), 0.8 * tile->height());
+    tile->showFitted(CramText(tile->caption(), tile->font(), 8, 0.8 * tile->width(), 0.8 * tile->height()));
 }
 
 void frmMain::paintEvent(QPaintEvent *event)

@@ -1,6 +1,6 @@
 #include "ShadowLabel.h"
 
-#include "platform/FormLook.h"
+#include "FormLook.h"
 
 #include <QEvent>
 #include <QFontMetricsF>

@@ -2,22 +2,24 @@
 // banner, the teams' scores down the left, and the full-screen answer
 // screen that grows out of a pressed tile. One board lives for one game.
 //
-// The form only shows and forwards: the rules of play are BoardGame's, and
-// the form shows the game's state through the BoardView it implements. It
-// is split across files by concern: load and unload (frmMain_Load.cpp),
-// layout and text fitting (frmMain_Layout.cpp), the answer screen's
-// animation (frmMain_Animation.cpp), play (frmMain_Play.cpp).
+// The form only shows and forwards: the rules of play are BoardGame's; the
+// form watches the game's announcements like any other watcher and carries
+// out what only a board can (its BoardView). It is split across files by
+// concern: load and unload (frmMain_Load.cpp), layout and text fitting
+// (frmMain_Layout.cpp), the answer screen's animation
+// (frmMain_Animation.cpp), play (frmMain_Play.cpp).
 #pragma once
 
-#include "BoardGame.h"
-#include "BoardView.h"
 #include "board/BoardLayout.h"
+#include "game/BoardGame.h"
+#include "game/BoardView.h"
 #include "platform/PictureBox.h"
 
 #include <QColor>
 #include <QImage>
 #include <QList>
 #include <QPixmap>
+#include <QPointer>
 #include <QWidget>
 
 #include <array>
@@ -26,28 +28,40 @@ class CaptionControl;
 class ShadowLabel;
 class QTimer;
 
-class frmMain : public QWidget, public BoardView {
+class frmMain : public QWidget, private BoardView {
     Q_OBJECT
 public:
     // Form_Load: builds the controls, starts the sound library (offering to
     // retry), reads the answer time and gives tiles their face.
-    explicit frmMain(QWidget *parent = nullptr);
+    frmMain(GameState &state, Libraries &libraries, QWidget *parent = nullptr);
     ~frmMain() override;
 
+    // Starts a game on a new board once the home screen has checked the
+    // chosen set (QuestionFile): the warning to let sounds end, the board
+    // loaded with its teams and labels, all scores 0, the board laid out and
+    // shown, the start sound, then round 1. Returns the board, or nullptr
+    // when the host ended it during the start sound.
+    template <class Board = frmMain>
+    static Board *StartGame(GameState &state, Libraries &libraries, int teams);
+
     // The rules of play, and the state of the round they keep.
-    BoardGame game{*this};
+    BoardGame &game() { return game_; }
+    const BoardGame &game() const { return game_; }
+
+    // The area the board lays out in (the centred 4:3 rectangle), in the
+    // window's coordinates, and its size W x H.
+    QRect boardArea() const;
+    QSizeF boardSize() const;
+    const BoardGeometry &geometry() const { return geometry_; }
+
     // Dollar amounts in gold, titles and clues in white: both with a shadow.
     static inline const QColor kValueGold{255, 204, 51};
 
-    // Number of scoring teams, 0 ("No scoring") to 10; set after loading.
-    qint16 &Teams = game.state().Teams;
+signals:
+    void unloaded();
 
-    // Sets up the round named by Round, or ends the game.
-    void SetUpRound();
-    // Shows the board over the whole screen.
-    void showOnWholeScreen();
-
-    // Controls, under the names the game gives them.
+protected:
+    // Controls, under the names the game gives them (and as object names).
     CaptionControl *vseCategories = nullptr;
     std::array<CaptionControl *, 6> vseCategory{};
     std::array<CaptionControl *, 5> vseQuestions{};
@@ -71,59 +85,20 @@ public:
 
     // Lays the board out for its current size: banner, team labels, the
     // category row and the five tile rows, inside the centred 4:3 area.
-    void Form_Resize();
+    void Form_Resize() override;
     // Fit a header's or a tile's caption into 80% of its box.
     void vseCategory_RealignFrame(int Index);
     void vseQuestion_RealignFrame(int Index);
 
-    // Grows the answer screen out of a tile or header to cover the board,
-    // showing picture PictureID.
-    void ZoomTV(QWidget *source, qint32 PictureID);
-    // Folds the answer screen away showing PictureID1 and unfolds it
-    // showing PictureID2.
-    void RotateTV(qint32 PictureID1, qint32 PictureID2);
-
-    // The area the board lays out in (the centred 4:3 rectangle), in the
-    // window's coordinates, and its size W x H.
-    QRect boardArea() const;
-    QSizeF boardSize() const;
-    const BoardGeometry &geometry() const { return geometry_; }
+    // The answer screen grows out of a tile or header to cover the board.
+    void ZoomTV(ZoomSource source, qint32 PictureID) override;
+    void RotateTV(qint32 PictureID1, qint32 PictureID2) override;
 
     // Form_Unload: shuts the sound down, tells the home screen, and lets
     // the window go.
-    void Unload();
-
-    // BoardView: the game's state shown on the controls.
-    void tileChanged(int tile) override;
-    void headerChanged(int column) override;
-    void stepCodeChanged() override;
-    void scoreChanged(int team) override;
-    void hideGrid() override;
-    void showGrid() override;
-    void showBoardWindow() override;
-    void layOut() override;
-    void showHeaderRow() override;
-    void showTileRow(int row) override;
-    void zoomFromTile(int tile, qint32 picture) override;
-    void zoomFromHeader(int column, qint32 picture) override;
-    void rotate(qint32 fromPicture, qint32 toPicture) override;
-    void setScreenCaption(const QString &caption) override;
-    void screenTakesTile(int tile) override;
-    void showOnScreen(const QString &text) override;
-    void setOverlayCaptions(const QString &category, const QString &value) override;
-    void setCategoryCaption(const QString &category) override;
-    void showOverlay(int column) override;
-    void hideScreen() override;
-    bool screenVisible() const override;
-    void startAnswerTimer() override;
-    void stopAnswerTimer() override;
-    void unload() override;
+    void Unload() override;
     bool isUnloaded() const override;
 
-signals:
-    void unloaded();
-
-protected:
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
@@ -141,8 +116,37 @@ private:
         frmMain &form_;
     };
 
+    static void warnBeforeStart(const Libraries &libraries);
+    // StartGame's steps on the loaded board; false when it was ended during
+    // the start sound.
+    bool start(int teams);
+
+    // The game's announcements, shown on the controls.
+    void showTile(int tile);
+    void showHeader(int column);
+    void showStepCode();
+    void showScore(int team);
+
+    // BoardView: what the rules ask of the board.
+    void hideGrid() override;
+    void showGrid() override;
+    void showBoardWindow() override;
+    void showHeaderRow() override;
+    void showTileRow(int row) override;
+    void setScreenCaption(const QString &caption) override;
+    void screenTakesTile(int tile) override;
+    void showOnScreen(const QString &text) override;
+    void setOverlayCaptions(const QString &category, const QString &value) override;
+    void setCategoryCaption(const QString &category) override;
+    void showOverlay(int column) override;
+    void hideScreen() override;
+    bool screenVisible() const override;
+    void startAnswerTimer() override;
+    void stopAnswerTimer() override;
+
     void createControls();
     void connectControls();
+    void watchGame();
     void fitTile(int tile);
     void fitHeader(int column);
     void createTiles();
@@ -151,9 +155,14 @@ private:
     void setTileFaces();
     void layOutTeamLabels(qreal referencePoints);
     void scaleBanner();
+    // Shows the board over the whole screen.
+    void showOnWholeScreen();
     // Shows one step of an animation as its own frame.
     void showFrame(int pauseMs);
 
+    GameState &state_;
+    Libraries &libraries_;
+    BoardGame game_{*this, state_, libraries_};
     QWidget *area_ = nullptr;
     BoardGeometry geometry_;
     QImage banner_;
@@ -164,3 +173,13 @@ private:
     int busy_ = 0;
     bool deletePending_ = false;
 };
+
+template <class Board>
+Board *frmMain::StartGame(GameState &state, Libraries &libraries, int teams)
+{
+    warnBeforeStart(libraries);
+    QPointer<Board> board = new Board(state, libraries);
+    if (!board->start(teams) || !board)
+        return nullptr;
+    return board;
+}

@@ -1,25 +1,22 @@
 #include "frmSelect.h"
 
 #include "QuestionListDelegate.h"
-#include "QuestionSetList.h"
-#include "SelectLayout.h"
-#include "clsShellFolders.h"
-#include "board/Backdrop.h"
-#include "game/GameState.h"
-#include "game/frmMain.h"
-#include "help/frmHowToPlay.h"
-#include "questions/frmEditor.h"
-#include "platform/CaptionControl.h"
-#include "platform/CommandButton.h"
-#include "platform/FormLook.h"
+#include "select/QuestionSetList.h"
+#include "select/SelectLayout.h"
+#include "platform/clsShellFolders.h"
+#include "ui/controls/Backdrop.h"
+#include "ui/board/frmMain.h"
+#include "ui/help/frmHowToPlay.h"
+#include "ui/editor/frmEditor.h"
+#include "ui/controls/CaptionControl.h"
+#include "ui/controls/CommandButton.h"
+#include "ui/controls/FormLook.h"
 #include "platform/ModuleFileName.h"
 #include "platform/MsgBox.h"
 #include "platform/SpecialFolders.h"
+#include "game/GameState.h"
 #include "questions/GameReads.h"
-#include "shell/PictureLibrary.h"
-#include "shell/SoundLibrary.h"
-#include "shell/basDetectDevEnv.h"
-#include "shell/basPLOVQuzr.h"
+#include "shell/Libraries.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -39,7 +36,8 @@ const QStringList kTeamCounts{
 
 } // namespace
 
-frmSelect::frmSelect(QWidget *parent) : QWidget(parent)
+frmSelect::frmSelect(GameState &state, Libraries &libraries, QWidget *parent)
+    : QWidget(parent), state_(state), libraries_(libraries)
 {
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(QStringLiteral("Select the question set to use"));
@@ -146,8 +144,8 @@ bool frmSelect::checkSelectedEntry()
                MsgBoxStyle::OKOnly | MsgBoxStyle::Information, applicationTitle());
         return false;
     }
-    basPLOVQuzr::QuestionFile = GetEntryPath(entry);
-    if (GameReads::IsQuestionSet(GameReads::Description(basPLOVQuzr::QuestionFile)))
+    state_.QuestionFile = GetEntryPath(entry);
+    if (GameReads::IsQuestionSet(GameReads::Description(state_.QuestionFile)))
         return true;
     // The file is gone or no longer a question set: so is its entry.
     delete lstQuestions->takeItem(lstQuestions->row(entry));
@@ -156,7 +154,7 @@ bool frmSelect::checkSelectedEntry()
     if (lstQuestions->count() == 0) {
         MsgBox(QStringLiteral("I'm sorry, but I am unable to locate any valid .QZ2 files."),
                MsgBoxStyle::OKOnly | MsgBoxStyle::Critical, applicationTitle());
-        basPLOVQuzr::ShutdownLibraries();
+        libraries_.ShutdownLibraries();
     }
     return false;
 }
@@ -166,29 +164,12 @@ void frmSelect::cmdStart_Click()
     if (board_ || !checkSelectedEntry())
         return;
     hide();
-    if (basPLOVQuzr::hSoundLib && basDetectDevEnv::IsRunningCompiled())
-        MsgBox(QStringLiteral("Please wait until all sounds playing have stopped, then click OK to start!"),
-               MsgBoxStyle::OKOnly | MsgBoxStyle::Exclamation, applicationTitle());
-    startBoard();
-}
-
-void frmSelect::startBoard()
-{
-    auto *board = new frmMain;
+    frmMain *board = frmMain::StartGame(state_, libraries_, cmbScore->currentIndex());
     board_ = board;
-    connect(board, &frmMain::unloaded, this, &frmSelect::comeBack);
-    const int teams = cmbScore->currentIndex();
-    board->Teams = qint16(teams);
-    board->PrepareTeamLabels(teams);
-    basPLOVQuzr::Scores.fill(0);
-    board->Form_Resize();
-    board->showOnWholeScreen();
-    board->repaint();
-    PlayGameSound(107, true);
-    if (!board_ || board->isUnloaded())
-        return;
-    basPLOVQuzr::Round = 1;
-    board->SetUpRound();
+    if (board)
+        connect(board, &frmMain::unloaded, this, &frmSelect::comeBack);
+    else
+        comeBack();
 }
 
 void frmSelect::comeBack()
@@ -234,8 +215,8 @@ void frmSelect::cmdHowToPlay_Click()
 
 void frmSelect::layOut()
 {
-    DrawLibraryBitmap(picText, 203);
-    banner_ = basPLOVQuzr::hPictureLib ? picText.image() : QImage();
+    libraries_.DrawLibraryBitmap(picText, 203);
+    banner_ = libraries_.hPictureLib ? picText.image() : QImage();
     const qreal labelWidth = QFontMetricsF(lblScore->font()).horizontalAdvance(lblScore->text());
     const SelectLayout l = LayOutSelectScreen(QSizeF(size()), picText.height(), cmbScore->sizeHint().height(),
                                               labelWidth, QSizeF(cmbScore->sizeHint()));
@@ -281,7 +262,7 @@ void frmSelect::keyPressEvent(QKeyEvent *event)
 void frmSelect::closeEvent(QCloseEvent *event)
 {
     // Closing the home screen ends the program.
-    basPLOVQuzr::ShutdownLibraries();
+    libraries_.ShutdownLibraries();
     event->accept();
     QCoreApplication::quit();
 }

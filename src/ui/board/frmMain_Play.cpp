@@ -3,11 +3,11 @@
 
 #include "frmMain.h"
 
-#include "GameRules.h"
-#include "GameState.h"
-#include "board/ShadowLabel.h"
+#include "game/GameRules.h"
+#include "game/GameState.h"
+#include "ui/controls/ShadowLabel.h"
 #include "board/TextFitting.h"
-#include "platform/CaptionControl.h"
+#include "ui/controls/CaptionControl.h"
 #include "platform/Clock.h"
 #include "platform/DigitRowKey.h"
 
@@ -40,7 +40,7 @@ void frmMain::connectControls()
         connect(tile, &CaptionControl::resized, this, [this, i] { vseQuestion_RealignFrame(i); });
         connect(tile, &CaptionControl::pressed, this, [this, i](Qt::MouseButton button, Qt::KeyboardModifiers m) {
             Busy busy(*this);
-            game.TilePress(i, button == Qt::LeftButton, allThreeHeld(m));
+            game_.TilePress(i, button == Qt::LeftButton, allThreeHeld(m));
         });
     }
     for (int c = 0; c < 6; ++c) {
@@ -49,24 +49,26 @@ void frmMain::connectControls()
         connect(header, &CaptionControl::pressed, this, [this](Qt::MouseButton button, Qt::KeyboardModifiers) {
             Busy busy(*this);
             if (button == Qt::LeftButton)
-                game.HeaderPress();
+                game_.HeaderPress();
         });
     }
     connect(vseTV, &CaptionControl::pressed, this, [this](Qt::MouseButton button, Qt::KeyboardModifiers) {
         Busy busy(*this);
         if (button == Qt::LeftButton)
-            game.AnswerScreenPress();
+            game_.AnswerScreenPress();
     });
     connect(tmrQuestion, &QTimer::timeout, this, [this] {
         Busy busy(*this);
-        game.AnswerTimeout();
+        game_.AnswerTimeout();
     });
 }
 
-void frmMain::SetUpRound()
+void frmMain::watchGame()
 {
-    Busy busy(*this);
-    game.SetUpRound();
+    connect(&game_, &BoardGame::tileChanged, this, &frmMain::showTile);
+    connect(&game_, &BoardGame::headerChanged, this, &frmMain::showHeader);
+    connect(&game_, &BoardGame::stepCodeChanged, this, &frmMain::showStepCode);
+    connect(&game_, &BoardGame::scoreChanged, this, &frmMain::showScore);
 }
 
 void frmMain::keyPressEvent(QKeyEvent *event)
@@ -74,7 +76,7 @@ void frmMain::keyPressEvent(QKeyEvent *event)
     Busy busy(*this);
     const int key = event->key();
     const QChar letter = key >= Qt::Key_A && key <= Qt::Key_Z ? QChar(char16_t(key)) : QChar();
-    if (game.KeyDown(letter, DigitRowKey(*event), modifierBits(event->modifiers())))
+    if (game_.KeyDown(letter, DigitRowKey(*event), modifierBits(event->modifiers())))
         event->accept();
     else
         event->ignore();
@@ -94,29 +96,29 @@ void frmMain::fitHeader(int column)
         vseCategory_RealignFrame(column);
 }
 
-void frmMain::tileChanged(int tile)
+void frmMain::showTile(int tile)
 {
-    vseQuestion[size_t(tile)]->setCaption(game.state().tileCaption[size_t(tile)]);
+    vseQuestion[size_t(tile)]->setCaption(game_.state().tileCaption[size_t(tile)]);
     // A tile put back may have been fitted while it was empty.
     fitTile(tile);
 }
 
-void frmMain::headerChanged(int column)
+void frmMain::showHeader(int column)
 {
     CaptionControl *header = vseCategory[size_t(column)];
-    header->setCaption(game.state().headerCaption[size_t(column)]);
-    header->setTag(game.state().headerTag[size_t(column)]);
+    header->setCaption(game_.state().headerCaption[size_t(column)]);
+    header->setTag(game_.state().headerTag[size_t(column)]);
     fitHeader(column);
 }
 
-void frmMain::stepCodeChanged()
+void frmMain::showStepCode()
 {
-    vseTV->setTag(game.state().stepCode);
+    vseTV->setTag(game_.state().stepCode);
 }
 
-void frmMain::scoreChanged(int team)
+void frmMain::showScore(int team)
 {
-    const QString text = QStringLiteral("$ ") + FormatScore(basPLOVQuzr::Scores[size_t(team)]);
+    const QString text = QStringLiteral("$ ") + FormatScore(state_.Scores[size_t(team)]);
     if (team < lblScore.size()) {
         lblScore[team]->setCaption(text);
         lblScore2[team]->setCaption(text);
@@ -153,11 +155,6 @@ void frmMain::showOnWholeScreen()
     activateWindow();
 }
 
-void frmMain::layOut()
-{
-    Form_Resize();
-}
-
 void frmMain::showHeaderRow()
 {
     vseCategories->show();
@@ -174,21 +171,6 @@ void frmMain::showTileRow(int row)
         vseQuestion_RealignFrame(i);
     repaint();
     Clock::instance().pause(kRowFrameMs);
-}
-
-void frmMain::zoomFromTile(int tile, qint32 picture)
-{
-    ZoomTV(vseQuestion[size_t(tile)], picture);
-}
-
-void frmMain::zoomFromHeader(int column, qint32 picture)
-{
-    ZoomTV(vseCategory[size_t(column)], picture);
-}
-
-void frmMain::rotate(qint32 fromPicture, qint32 toPicture)
-{
-    RotateTV(fromPicture, toPicture);
 }
 
 void frmMain::setScreenCaption(const QString &caption)
@@ -208,7 +190,7 @@ void frmMain::showOnScreen(const QString &text)
 {
     const QSizeF board = boardSize();
     vseTV->setTextColor(Qt::white);
-    CramText(text, *vseTV, vseQuestion[0]->fontSize(), 0.8 * board.width(), 0.75 * board.height());
+    vseTV->showFitted(CramText(text, vseTV->font(), vseQuestion[0]->fontSize(), 0.8 * board.width(), 0.75 * board.height()));
     vseTV->repaint();
 }
 
@@ -253,11 +235,6 @@ void frmMain::startAnswerTimer()
 void frmMain::stopAnswerTimer()
 {
     tmrQuestion->stop();
-}
-
-void frmMain::unload()
-{
-    Unload();
 }
 
 bool frmMain::isUnloaded() const

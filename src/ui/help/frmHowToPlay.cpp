@@ -1,9 +1,9 @@
 #include "frmHowToPlay.h"
 
-#include "HelpTexts.h"
-#include "board/Backdrop.h"
-#include "platform/CaptionControl.h"
-#include "platform/FormLook.h"
+#include "help/HelpTexts.h"
+#include "ui/controls/Backdrop.h"
+#include "ui/controls/CaptionControl.h"
+#include "ui/controls/FormLook.h"
 
 #include <QButtonGroup>
 #include <QCloseEvent>

@@ -5,12 +5,11 @@
 #include "frmMain.h"
 
 #include "board/AnimationGeometry.h"
-#include "board/ShadowLabel.h"
-#include "platform/CaptionControl.h"
+#include "ui/controls/ShadowLabel.h"
+#include "ui/controls/CaptionControl.h"
 #include "platform/Clock.h"
-#include "shell/PictureLibrary.h"
+#include "shell/Libraries.h"
 
-#include <algorithm>
 
 namespace {
 
@@ -32,8 +31,11 @@ void frmMain::showFrame(int pauseMs)
     Clock::instance().pause(pauseMs);
 }
 
-void frmMain::ZoomTV(QWidget *source, qint32 PictureID)
+void frmMain::ZoomTV(ZoomSource from, qint32 PictureID)
 {
+    const bool isTile = from.kind == ZoomSource::Tile;
+    CaptionControl *source = isTile ? vseQuestion[size_t(qBound(0, from.index, 29))]
+                                    : vseCategory[size_t(qBound(0, from.index, 5))];
     vseTV->hide();
     lblCategory->hide();
     lblValue->hide();
@@ -42,21 +44,17 @@ void frmMain::ZoomTV(QWidget *source, qint32 PictureID)
         lblScore2[i]->hide();
     }
 
-    auto *caption = static_cast<CaptionControl *>(source);
-    const bool isTile = std::find(vseQuestion.begin(), vseQuestion.end(), source) != vseQuestion.end();
-    if (!isTile) {
-        game.setStepCode(QStringLiteral("NO"));
-        vseTV->setCaption(caption->caption());
-    }
+    if (!isTile)
+        vseTV->setCaption(source->caption());
     // Our containers draw no frame: the screen starts exactly on the source.
     const QRectF start(source->mapTo(area_, QPoint(0, 0)), QSizeF(source->size()));
     const std::array<QRectF, 6> steps = ZoomRects(start, boardSize());
 
     vseTV->setFastScaling(true);
     vseTV->setGeometry(pixels(steps[0]));
-    DrawLibraryBitmap(picText, PictureID);
+    libraries_.DrawLibraryBitmap(picText, PictureID);
     vseTV->setPicture(picText.image());
-    vseTV->setFontSize(caption->fontSize());
+    vseTV->setFontSize(source->fontSize());
     vseTV->show();
     vseTV->raise();
     vseTV->repaint();
@@ -68,7 +66,7 @@ void frmMain::ZoomTV(QWidget *source, qint32 PictureID)
         showFrame(kZoomPauseMs);
     }
     vseTV->setFastScaling(false);
-    if (Teams > 0) {
+    if (game_.state().Teams > 0) {
         for (int i = 0; i < lblTeam2.size(); ++i) {
             lblTeam2[i]->show();
             lblScore2[i]->show();
@@ -80,14 +78,14 @@ void frmMain::RotateTV(qint32 PictureID1, qint32 PictureID2)
 {
     const QSizeF board = boardSize();
     vseTV->setFastScaling(true);
-    DrawLibraryBitmap(picText, PictureID1);
+    libraries_.DrawLibraryBitmap(picText, PictureID1);
     vseTV->setPicture(picText.image());
     for (const QRectF &r : FoldRects(board, vseTV->width())) {
         if (r.height() > 0)
             vseTV->setGeometry(pixels(r));
         showFrame(kFlipFrameMs);
     }
-    DrawLibraryBitmap(picText, PictureID2);
+    libraries_.DrawLibraryBitmap(picText, PictureID2);
     vseTV->setPicture(picText.image());
     for (const QRectF &r : UnfoldRects(board)) {
         vseTV->setGeometry(pixels(r));

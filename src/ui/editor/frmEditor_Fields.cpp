@@ -3,9 +3,9 @@
 
 #include "frmEditor.h"
 
-#include "NumberText.h"
-#include "platform/CaptionControl.h"
-#include "platform/FormLook.h"
+#include "platform/NumberText.h"
+#include "ui/controls/CaptionControl.h"
+#include "ui/controls/FormLook.h"
 
 #include <QButtonGroup>
 #include <QComboBox>

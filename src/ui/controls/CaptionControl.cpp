@@ -123,23 +123,10 @@ void CaptionControl::placeChildren()
     }
 }
 
-qreal CaptionControl::lineHeight(const QFont &font)
+void CaptionControl::showFitted(const FittedText &fitted)
 {
-    return QFontMetricsF(font).height();
-}
-
-qreal CaptionControl::textWidth(const QFont &font, const QString &wrapped)
-{
-    const QFontMetricsF fm(font);
-    qreal widest = 0;
-    for (const QString &line : wrapped.split(QLatin1Char('\n')))
-        widest = qMax(widest, fm.horizontalAdvance(line));
-    return widest;
-}
-
-qreal CaptionControl::textHeight(const QFont &font, const QString &wrapped)
-{
-    return lineHeight(font) * (wrapped.count(QLatin1Char('\n')) + 1);
+    setFontSize(fitted.points);
+    setCaption(fitted.caption);
 }
 
 QPixmap CaptionControl::scaledPicture()
@@ -183,7 +170,7 @@ void CaptionControl::drawCaption(QPainter &p) const
     p.setFont(font());
     const QFontMetricsF fm(font());
     const QStringList lines = caption_.split(QLatin1Char('\n'));
-    const qreal line = fm.height();
+    const qreal line = CaptionText::lineHeight(font());
     const qreal shadow = qMax<qreal>(1.0, line / 16.0);
     qreal y = (height() - line * lines.size()) / 2.0 + fm.ascent();
     for (const QString &text : lines) {

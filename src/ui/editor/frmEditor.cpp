@@ -1,13 +1,13 @@
 #include "frmEditor.h"
 
-#include "clsOpenSaveDlg.h"
-#include "board/Backdrop.h"
-#include "platform/CaptionControl.h"
-#include "platform/FormLook.h"
+#include "questions/clsOpenSaveDlg.h"
+#include "ui/controls/Backdrop.h"
+#include "ui/controls/CaptionControl.h"
+#include "ui/controls/FormLook.h"
 #include "platform/ModuleFileName.h"
 #include "platform/MsgBox.h"
 #include "platform/SpecialFolders.h"
-#include "select/clsShellFolders.h"
+#include "platform/clsShellFolders.h"
 
 #include <QAction>
 #include <QCloseEvent>

@@ -1,7 +1,7 @@
 #include "clsShellFolders.h"
 
-#include "platform/ModuleFileName.h"
-#include "platform/SpecialFolders.h"
+#include "ModuleFileName.h"
+#include "SpecialFolders.h"
 
 QString clsShellFolders::GetSpecialFolderLocation(uintptr_t, int32_t CSIDL) const
 {

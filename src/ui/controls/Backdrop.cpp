@@ -1,6 +1,6 @@
 #include "Backdrop.h"
 
-#include "questions/NumberText.h"
+#include "platform/NumberText.h"
 
 #include <QPainter>
 
