@@ -203,6 +203,9 @@ private slots:
         QMetaObject::invokeMethod(board_->tmrQuestion, "timeout");
         QCOMPARE(sound_->played().last(), QStringLiteral("108"));
         QVERIFY(!board_->tmrQuestion->isActive());
+        pressScreen(); // the response: no second time-out
+        QVERIFY(!board_->tmrQuestion->isActive());
+        QCOMPARE(sound_->played().count(QStringLiteral("108")), 1);
     }
 
     void closingTheBoardDuringTheThinkMusicIsSafe()
