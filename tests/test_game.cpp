@@ -18,6 +18,7 @@
 #include "ui/controls/ShadowLabel.h"
 
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QtTest>
@@ -172,6 +173,36 @@ private slots:
         QCOMPARE(ended.size(), 1);
         QVERIFY(!board_->isVisible());
         QCOMPARE(sound_->played().last(), QStringLiteral("106"));
+    }
+
+    void pressesDuringAnAnimationAreDropped()
+    {
+        start(setText({"Rivers", "Lakes", "", "", "", ""}, {}, nullptr), 0);
+        const int tile = isDailyDouble(7) ? 13 : 7;
+        QWidget *target = board_->vseQuestion[size_t(tile)];
+        const QPointF onTile = target->mapTo(board_, QPointF(target->rect().center()));
+        const QPointF onHeader = board_->vseCategory[0]->mapTo(board_, QPointF(5, 5));
+        // The host clicks where the tile lies, and double-clicks the header,
+        // while the titles parade: window-system events, queued as they come.
+        auto queue = [&](QEvent::Type type, QPointF at) {
+            QCoreApplication::postEvent(board_->windowHandle(),
+                                        new QMouseEvent(type, at, at, board_->mapToGlobal(at), Qt::LeftButton,
+                                                        Qt::LeftButton, Qt::NoModifier));
+        };
+        int holds = 0;
+        clock_->onPause = [&](int ms) {
+            if (ms == 2500 && ++holds == 1) {
+                queue(QEvent::MouseButtonPress, onTile);
+                queue(QEvent::MouseButtonDblClick, onHeader);
+            }
+        };
+        press(board_->vseCategory[1]);
+        QCoreApplication::processEvents();
+        clock_->onPause = nullptr;
+        QCOMPARE(holds, 2); // one parade of two titles, not a second one
+        QVERIFY(!board_->vseTV->isVisible());
+        QCOMPARE(board_->vseQuestion[size_t(tile)]->caption(), Tiles::caption(tile, 1));
+        QCOMPARE(board_->game().state().stepCode, QStringLiteral("NO"));
     }
 
     void dailyDoubleZoomsWithoutItsValue()

@@ -343,7 +343,8 @@ private slots:
         // An opened tile put back can be played again.
         start(setText({"Rivers", "Lakes", "", "", "", ""}, {}, nullptr), 0);
         const int tile = plainTile(0);
-        pressTile(tile);
+        game_->TilePress(tile, false, true); // another button with all three opens it
+        QCOMPARE(state().stepCode, MakeStepCode("SA", tile));
         pressScreen();
         pressScreen();
         QCOMPARE(state().tileCaption[size_t(tile)], QString());

@@ -65,9 +65,10 @@ void BoardGame::columnCheck(int column)
 
 void BoardGame::TilePress(int tile, bool leftButton, bool shiftCtrlAlt)
 {
-    if (tile < 0 || tile >= 30 || view_.isUnloaded() || !started_ || !leftButton)
+    if (tile < 0 || tile >= 30 || view_.isUnloaded() || !started_)
         return;
-    if (shiftCtrlAlt) {
+    // Only the left button makes the special press; any other opens.
+    if (leftButton && shiftCtrlAlt) {
         specialPress(tile);
         return;
     }

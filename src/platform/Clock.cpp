@@ -16,11 +16,14 @@ public:
     void pause(int ms) override
     {
         // A nested loop that sleeps until the timer fires, painting and
-        // running timers meanwhile; input events wait in the window
-        // system's queue for the outer loop.
+        // running timers meanwhile. Input is taken from the window system
+        // and dropped: held back, it would reach whatever lies under the
+        // mouse once the animation is over.
+        DroppedInput dropped;
         QEventLoop loop;
         QTimer::singleShot(qMax(0, ms), Qt::PreciseTimer, &loop, &QEventLoop::quit);
-        loop.exec(QEventLoop::ExcludeUserInputEvents);
+        loop.exec(QEventLoop::AllEvents);
+        QCoreApplication::processEvents(); // what arrived at the very end
     }
 
     void waitForEvents(int ms) override
@@ -46,6 +49,31 @@ private:
 
 Clock *installed = nullptr;
 
+class InputDropper final : public QObject {
+public:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        switch (event->type()) {
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonRelease:
+        case QEvent::MouseButtonDblClick:
+        case QEvent::KeyPress:
+        case QEvent::KeyRelease:
+        case QEvent::ShortcutOverride:
+        case QEvent::Wheel:
+        case QEvent::TouchBegin:
+        case QEvent::TouchUpdate:
+        case QEvent::TouchEnd:
+            return true;
+        default:
+            return false;
+        }
+    }
+};
+
+int droppers = 0;
+InputDropper *dropper = nullptr;
+
 } // namespace
 
 Clock &Clock::instance()
@@ -57,4 +85,21 @@ Clock &Clock::instance()
 void Clock::install(Clock *clock)
 {
     installed = clock;
+}
+
+DroppedInput::DroppedInput()
+{
+    if (droppers++ == 0) {
+        dropper = new InputDropper;
+        if (QCoreApplication *app = QCoreApplication::instance())
+            app->installEventFilter(dropper);
+    }
+}
+
+DroppedInput::~DroppedInput()
+{
+    if (--droppers == 0) {
+        delete dropper; // uninstalls itself
+        dropper = nullptr;
+    }
 }

@@ -12,8 +12,9 @@ public:
     // Whole seconds since some fixed moment; only differences count.
     virtual qint64 now() const = 0;
 
-    // Blocks for ms milliseconds. The windows keep painting and timers run,
-    // but user input stays queued until the pause is over.
+    // Blocks for ms milliseconds. The windows keep painting and timers run;
+    // user input that arrives meanwhile is dropped (DroppedInput), so that
+    // a press made during an animation never acts after it.
     virtual void pause(int ms) = 0;
 
     // Dispatches every pending event, input included, then sleeps until
@@ -30,4 +31,14 @@ public:
     static Clock &instance();
     // Installs a clock (not owned); nullptr goes back to the system clock.
     static void install(Clock *clock);
+};
+
+// While one lives, presses, keys and wheel turns not yet delivered are
+// dropped, for every window of the program. Every pause holds one.
+class DroppedInput {
+public:
+    DroppedInput();
+    ~DroppedInput();
+    DroppedInput(const DroppedInput &) = delete;
+    DroppedInput &operator=(const DroppedInput &) = delete;
 };

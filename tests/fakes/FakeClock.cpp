@@ -14,9 +14,13 @@ FakeClock::~FakeClock()
 
 void FakeClock::pause(int ms)
 {
+    // As a real pause: the frame's events run, and input that came in the
+    // meantime (onPause may send some) is dropped.
+    DroppedInput dropped;
     pauses.append(ms);
     if (onPause)
         onPause(ms);
+    QCoreApplication::processEvents();
     advance(ms);
 }
 
