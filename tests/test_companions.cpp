@@ -9,6 +9,8 @@
 #include <QLibrary>
 #include <QtTest>
 
+#include <csignal>
+
 namespace {
 
 const QString programDir = QStringLiteral(QUIZZARR_PROGRAM_DIR "/");
@@ -37,6 +39,20 @@ private slots:
         QVERIFY2(sound_.load(), qPrintable(sound_.errorString()));
         libraries_.hPictureLib = PictureLibrary::load(programDir + QStringLiteral("PLOVQBmp.so"));
         QVERIFY(libraries_.hPictureLib);
+    }
+
+    void soundLeavesTheProgramsSignalsAlone()
+    {
+        // SDL takes signals that still have their default action; the game's
+        // own SIGTERM and SIGINT must stay the game's.
+        for (int sig : {SIGTERM, SIGINT})
+            std::signal(sig, SIG_DFL);
+        QCOMPARE(api<int32_t (*)(uintptr_t)>("PLOV_InitSound")(0), 0);
+        for (int sig : {SIGTERM, SIGINT}) {
+            struct sigaction now {};
+            sigaction(sig, nullptr, &now);
+            QVERIFY(now.sa_handler == SIG_DFL);
+        }
     }
 
     void cleanupTestCase()

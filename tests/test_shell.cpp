@@ -9,6 +9,7 @@
 #include "game/GameState.h"
 #include "platform/ModuleFileName.h"
 #include "platform/PictureBox.h"
+#include "platform/TerminationSignals.h"
 #include "shell/PictureLibrary.h"
 #include "shell/SoundLibrary.h"
 #include "shell/basDetectDevEnv.h"
@@ -18,6 +19,8 @@
 #include <QApplication>
 #include <QTimer>
 #include <QtTest>
+
+#include <csignal>
 
 namespace {
 
@@ -316,6 +319,19 @@ private slots:
         libraries_.PlayGameSound(101, false);
         QCOMPARE(libraries_.hCurrentSound, 0);
         QCOMPARE(fake.calls().last(), QStringLiteral("LoadSound 101 failed"));
+    }
+
+    void terminationSignalsArriveOnTheEventLoop()
+    {
+        TerminationSignals ending;
+        QSignalSpy received(&ending, &TerminationSignals::received);
+        for (int s : {SIGTERM, SIGINT, SIGHUP})
+            ::raise(s); // would end the test program but for the handlers
+        for (int turn = 0; turn < 10 && received.size() < 3; ++turn)
+            QCoreApplication::processEvents(); // the bytes wait in the pipe already
+        QCOMPARE(received.size(), 3);
+        QCOMPARE(received[0][0].toInt(), SIGTERM);
+        QCOMPARE(received[2][0].toInt(), SIGHUP);
     }
 
     void drawingWithoutPictureLibraryLeavesTargetUntouched()

@@ -93,6 +93,9 @@ int32_t PLOV_InitSound(uintptr_t)
         d.ready = true;
         return 0;
     }
+    // A library has no business with the program's signals: left to SDL,
+    // SIGTERM and SIGINT would no longer end the game.
+    SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
     if (SDL_InitSubSystem(SDL_INIT_AUDIO) != 0)
         return -1;
     SDL_AudioSpec want{};

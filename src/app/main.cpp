@@ -1,5 +1,6 @@
 #include "game/GameState.h"
 #include "platform/MsgBox.h"
+#include "platform/TerminationSignals.h"
 #include "shell/Libraries.h"
 #include "ui/controls/QtFileDialog.h"
 #include "ui/controls/QtMsgBox.h"
@@ -22,6 +23,13 @@ int main(int argc, char **argv)
 
     GameState state;
     Libraries libraries;
+    // Asked to end (a logout, kill, Ctrl+C): the same end as closing the
+    // home screen, whatever screen or wait the game is in.
+    TerminationSignals ending;
+    QObject::connect(&ending, &TerminationSignals::received, &app, [&libraries] {
+        libraries.ShutdownLibraries();
+        QCoreApplication::exit(0);
+    });
     basPLOVQuzr::Main(state, libraries);
     return app.exec();
 }
