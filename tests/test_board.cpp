@@ -339,6 +339,20 @@ private slots:
         QCOMPARE(board->vseTV->geometry(), QRect(QPoint(0, 0), board->boardSize().toSize()));
     }
 
+    void answerScreenCoversAWideWindowWhole()
+    {
+        std::unique_ptr<BoardUnderTest> board(newBoard(QSize(1280, 720)));
+        board->show();
+        FakeClock clock;
+        QCOMPARE(board->boardArea(), QRect(160, 0, 960, 720)); // the grid keeps to 4:3
+        board->ZoomTV({ZoomSource::Tile, 0}, state_.PicIdScreen);
+        QCOMPARE(board->vseTV->geometry(), QRect(0, 0, 1280, 720));
+        board->RotateTV(state_.PicIdScreen, state_.PicIdScreen);
+        QCOMPARE(board->vseTV->geometry(), QRect(0, 0, 1280, 720));
+        const QRect firstTile(board->vseQuestion[0]->mapTo(board.get(), QPoint(0, 0)), board->vseQuestion[0]->size());
+        QVERIFY(board->boardArea().contains(firstTile));
+    }
+
     void flipFoldsAndUnfoldsOverTheWholeBoard()
     {
         std::unique_ptr<BoardUnderTest> board(newBoard());

@@ -52,6 +52,8 @@ public:
     // window's coordinates, and its size W x H.
     QRect boardArea() const;
     QSizeF boardSize() const;
+    // The answer screen's full size W x H: the whole window.
+    QSizeF screenSize() const { return QSizeF(size()); }
     const BoardGeometry &geometry() const { return geometry_; }
 
     // Dollar amounts in gold, titles and clues in white: both with a shadow.

@@ -47,8 +47,8 @@ void frmMain::ZoomTV(ZoomSource from, qint32 PictureID)
     if (!isTile)
         vseTV->setCaption(source->caption());
     // Our containers draw no frame: the screen starts exactly on the source.
-    const QRectF start(source->mapTo(area_, QPoint(0, 0)), QSizeF(source->size()));
-    const std::array<QRectF, 6> steps = ZoomRects(start, boardSize());
+    const QRectF start(source->mapTo(this, QPoint(0, 0)), QSizeF(source->size()));
+    const std::array<QRectF, 6> steps = ZoomRects(start, screenSize());
 
     vseTV->setFastScaling(true);
     vseTV->setGeometry(pixels(steps[0]));
@@ -76,7 +76,7 @@ void frmMain::ZoomTV(ZoomSource from, qint32 PictureID)
 
 void frmMain::RotateTV(qint32 PictureID1, qint32 PictureID2)
 {
-    const QSizeF board = boardSize();
+    const QSizeF board = screenSize();
     vseTV->setFastScaling(true);
     libraries_.DrawLibraryBitmap(picText, PictureID1);
     vseTV->setPicture(picText.image());

@@ -95,7 +95,9 @@ void frmMain::createTiles()
 
 void frmMain::createAnswerScreen()
 {
-    vseTV = new CaptionControl(area_);
+    // The answer screen covers the whole window, not only the board's
+    // 4:3 area: on a wide screen the clue gets the whole width.
+    vseTV = new CaptionControl(this);
     vseTV->setObjectName(QStringLiteral("vseTV"));
     vseTV->setFont(ArialFont(8, true));
     vseTV->hide();

@@ -188,7 +188,7 @@ void frmMain::screenTakesTile(int tile)
 
 void frmMain::showOnScreen(const QString &text)
 {
-    const QSizeF board = boardSize();
+    const QSizeF board = screenSize();
     vseTV->setTextColor(Qt::white);
     vseTV->showFitted(CramText(text, vseTV->font(), vseQuestion[0]->fontSize(), 0.8 * board.width(), 0.75 * board.height()));
     vseTV->repaint();
@@ -210,7 +210,7 @@ void frmMain::showOverlay(int column)
     const QFont font = vseCategory[size_t(column)]->font();
     lblCategory->setFont(font);
     lblValue->setFont(font);
-    const QSizeF board = boardSize();
+    const QSizeF board = screenSize();
     lblCategory->move(qRound(0.05 * board.width()), qRound(0.05 * board.height()));
     lblValue->move(qRound(0.95 * board.width()) - lblValue->width(), qRound(0.05 * board.height()));
     lblCategory->show();
