@@ -45,6 +45,7 @@ class TestShell : public QObject {
 private slots:
     void cleanup()
     {
+        ModuleFileName::declareGameExecutable(false);
         ModuleFileName::overridePath(QString());
         ModuleFileName::overrideProgramFolder(QString());
         basDetectDevEnv::ForgetRunMode();
@@ -163,24 +164,35 @@ private slots:
         visibleWindowTitled(QStringLiteral("Select the question set to use"))->close();
     }
 
-    void runModeComparesExecutableWithGameName_data()
+    void runModeComparesExecutableWithItsOwnName_data()
     {
+        QTest::addColumn<bool>("declared");
         QTest::addColumn<QString>("folder");
         QTest::addColumn<QString>("module");
         QTest::addColumn<bool>("compiled");
-        QTest::newRow("the game itself") << "/opt/quiz/" << "/opt/quiz/quizzarr" << true;
-        QTest::newRow("letter case ignored") << "/opt/quiz/" << "/OPT/Quiz/Quizzarr" << true;
-        QTest::newRow("extension cut") << "/opt/quiz/" << "/opt/quiz/quizzarr.bin" << true;
-        QTest::newRow("dot in a folder name is kept") << "/opt/my.games/" << "/opt/my.games/quizzarr" << true;
-        QTest::newRow("dot in a folder, other program") << "/opt/my.games/" << "/opt/my.games/ide" << false;
-        QTest::newRow("another program") << "/opt/quiz/" << "/usr/bin/ide" << false;
-        QTest::newRow("program at the root") << "/" << "/quizzarr" << true;
+        // The game's executable, under the name the host gave it.
+        QTest::newRow("the game itself") << true << "/opt/quiz/" << "/opt/quiz/quizzarr" << true;
+        QTest::newRow("renamed game") << true << "/opt/quiz/" << "/opt/quiz/Classroom Quiz" << true;
+        QTest::newRow("renamed, with an extension") << true << "/opt/quiz/" << "/opt/quiz/quiz.bin" << true;
+        QTest::newRow("dot in a folder name is kept") << true << "/opt/my.games/" << "/opt/my.games/quiz" << true;
+        QTest::newRow("game at the root") << true << "/" << "/quiz" << true;
+        QTest::newRow("module outside the program folder") << true << "/opt/quiz/" << "/usr/bin/driver" << false;
+        // Any other program: only a module named like the game counts, which
+        // is how tests force the game's mode.
+        QTest::newRow("forced by a test") << false << "/opt/quiz/" << "/opt/quiz/quizzarr" << true;
+        QTest::newRow("letter case ignored") << false << "/opt/quiz/" << "/OPT/Quiz/Quizzarr" << true;
+        QTest::newRow("extension cut") << false << "/opt/quiz/" << "/opt/quiz/quizzarr.bin" << true;
+        QTest::newRow("test program beside the game") << false << "/opt/quiz/" << "/opt/quiz/test_shell" << false;
+        QTest::newRow("dot in a folder, other program") << false << "/opt/my.games/" << "/opt/my.games/ide" << false;
+        QTest::newRow("another program") << false << "/opt/quiz/" << "/usr/bin/ide" << false;
     }
-    void runModeComparesExecutableWithGameName()
+    void runModeComparesExecutableWithItsOwnName()
     {
+        QFETCH(bool, declared);
         QFETCH(QString, folder);
         QFETCH(QString, module);
         QFETCH(bool, compiled);
+        ModuleFileName::declareGameExecutable(declared);
         ModuleFileName::overrideProgramFolder(folder);
         ModuleFileName::overridePath(module);
         basDetectDevEnv::ForgetRunMode();
@@ -206,6 +218,21 @@ private slots:
     {
         basDetectDevEnv::ForgetRunMode();
         QVERIFY(basDetectDevEnv::IsInDevEnv());
+        // Declared the game, this very program is one, under its own name.
+        ModuleFileName::declareGameExecutable();
+        basDetectDevEnv::ForgetRunMode();
+        QVERIFY(basDetectDevEnv::IsRunningCompiled());
+    }
+
+    void drivingProgramStatesAModuleOutsideTheProgramFolder()
+    {
+        ModuleFileName::declareGameExecutable();
+        qputenv("QUIZZARR_MODULE_PATH", "/usr/bin/screenshots");
+        basDetectDevEnv::ForgetRunMode();
+        const bool compiled = basDetectDevEnv::IsRunningCompiled();
+        qunsetenv("QUIZZARR_MODULE_PATH");
+        QVERIFY(!compiled);
+        QCOMPARE(ModuleFileName::path(), QFileInfo(QStringLiteral("/proc/self/exe")).canonicalFilePath());
     }
 
     void newClipCutsOffTheLast()
