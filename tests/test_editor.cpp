@@ -12,10 +12,53 @@
 #include "questions/frmEditor.h"
 
 #include <QComboBox>
+#include <QFileDialog>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QtTest>
+
+namespace {
+
+// Works the real file dialogs as a host would: each dialog that opens gets
+// the next name typed and accepted (or is cancelled when the names have run
+// out); each message box is read and closed. It acts from the dialogs' own
+// event loops, so nothing waits.
+class DialogHost final : public QObject {
+public:
+    explicit DialogHost(QStringList names) : names_(std::move(names)) { qApp->installEventFilter(this); }
+    ~DialogHost() override { qApp->removeEventFilter(this); }
+
+    QStringList messages;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() != QEvent::Show)
+            return false;
+        if (auto *dialog = qobject_cast<QFileDialog *>(watched)) {
+            const QString name = names_.isEmpty() ? QString() : names_.takeFirst();
+            QMetaObject::invokeMethod(dialog, [dialog, name] {
+                if (name.isEmpty()) {
+                    dialog->reject();
+                    return;
+                }
+                dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"))->setText(name);
+                static_cast<QDialog *>(dialog)->accept(); // as the Save button does
+            }, Qt::QueuedConnection);
+        } else if (auto *box = qobject_cast<QMessageBox *>(watched)) {
+            messages << box->text();
+            QMetaObject::invokeMethod(box, [box] { box->accept(); }, Qt::QueuedConnection);
+        }
+        return false;
+    }
+
+private:
+    QStringList names_;
+};
+
+} // namespace
 
 class TestEditor : public QObject {
     Q_OBJECT
@@ -202,6 +245,29 @@ private slots:
         QVERIFY(!d.ShowSaveAs());
         QVERIFY(dialogs_->requests.last().save);
         QCOMPARE(d.FileName(), QStringLiteral("/sets/Chosen.QZA"));
+    }
+
+    void realSaveDialogRefusesAFolderThatDoesNotExist()
+    {
+        dialogs_.reset(); // Qt's own dialog from here on
+        QDir().mkpath(path(QStringLiteral("Sets")));
+        const QString missing = path(QStringLiteral("No such folder/Set.QZ2"));
+        const QString existing = path(QStringLiteral("Sets/Set.QZ2"));
+        clsOpenSaveDlg d; // the wrapper's own flags hold PathMustExist
+        d.setInitialDir(path(QStringLiteral("Sets")));
+        {
+            DialogHost host({missing, existing});
+            QVERIFY(d.ShowSaveAs());
+            QCOMPARE(d.FileName(), existing);
+            QCOMPARE(host.messages.size(), 1);
+            QVERIFY2(host.messages[0].startsWith(missing + QStringLiteral("\n")), qPrintable(host.messages[0]));
+        }
+        // Without the flag the dialog lets the name through.
+        DialogHost careless({missing});
+        d.Flags().setPathMustExist(false);
+        QVERIFY(d.ShowSaveAs());
+        QCOMPARE(d.FileName(), missing);
+        QVERIFY(careless.messages.isEmpty());
     }
 
     // ------------------------------------------------------------- the editor
