@@ -6,6 +6,7 @@
 #include "ScriptedMsgBox.h"
 
 #include "platform/CaptionControl.h"
+#include "platform/ModuleFileName.h"
 #include "platform/SpecialFolders.h"
 #include "questions/QuestionSet.h"
 #include "questions/clsOpenSaveDlg.h"
@@ -500,6 +501,31 @@ private slots:
         editor_->mnuSave->trigger();
         QVERIFY(read(path(QStringLiteral("Old.QZ2"))).contains("Answer0=It has a red breast.\r\n"));
         QVERIFY(read(legacy).contains("Question0=It has a red breast."));
+    }
+
+    void dialogsStartInADocumentsFolderThatExists_data()
+    {
+        QTest::addColumn<bool>("save");
+        QTest::addColumn<QString>("documents");
+        QTest::addColumn<QString>("start");
+        QTest::newRow("open, folder missing: made") << false << "Fresh/Documents" << "Fresh/Documents/";
+        QTest::newRow("save, folder missing: made") << true << "Fresh/Documents" << "Fresh/Documents/";
+        QTest::newRow("open, cannot be made: program folder") << false << "file/Documents" << "";
+        QTest::newRow("save, cannot be made: program folder") << true << "file/Documents" << "";
+    }
+    void dialogsStartInADocumentsFolderThatExists()
+    {
+        QFETCH(bool, save);
+        QFETCH(QString, documents);
+        QFETCH(QString, start);
+        QVERIFY(QFile(path(QStringLiteral("file"))).open(QIODevice::WriteOnly)); // a file where a folder would go
+        SpecialFolders::overridePath(SpecialFolders::kDocuments, path(documents));
+        open();
+        dialogs_->cancel();
+        (save ? editor_->mnuSave : editor_->mnuOpen)->trigger();
+        const QString expected = start.isEmpty() ? ModuleFileName::programFolder() : path(start);
+        QCOMPARE(dialogs_->requests.last().initialDir, expected);
+        QVERIFY(QFileInfo(expected).isDir());
     }
 
     void failedSaveShowsTheErrorAndKeepsTheSetModified()
