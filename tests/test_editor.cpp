@@ -12,6 +12,7 @@
 #include "questions/clsOpenSaveDlg.h"
 #include "questions/frmEditor.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QFileDialog>
 #include <QLineEdit>
@@ -389,6 +390,10 @@ private slots:
         QTest::addColumn<QString>("shown");
         QTest::newRow("7 stays") << "7" << "7";
         QTest::newRow("3 becomes 20") << "3" << "20";
+        QTest::newRow("4 becomes 20") << "4" << "20";
+        QTest::newRow("5 stays") << "5" << "5";
+        QTest::newRow("60 stays") << "60" << "60";
+        QTest::newRow("61 becomes 20") << "61" << "20";
         QTest::newRow("75 becomes 20") << "75" << "20";
         QTest::newRow("empty becomes 20") << "" << "20";
         QTest::newRow("letters are dropped") << "4x5" << "45";
@@ -406,6 +411,62 @@ private slots:
         QCoreApplication::sendEvent(editor_->txtSecs, &out);
         QCOMPARE(editor_->txtSecs->text(), shown);
         QCOMPARE(int(editor_->questionSet.Timer), shown.toInt());
+    }
+
+    void secondsFieldLetsKeysThatTypeNothingThrough()
+    {
+        open();
+        editor_->txtSecs->setFocus();
+        editor_->txtSecs->setText(QStringLiteral("45"));
+        editor_->txtSecs->setCursorPosition(0);
+        QKeyEvent del(QEvent::KeyPress, Qt::Key_Delete, Qt::NoModifier, QString(QChar(0x7F))); // as X11 gives it
+        QCoreApplication::sendEvent(editor_->txtSecs, &del);
+        QCOMPARE(editor_->txtSecs->text(), QStringLiteral("5"));
+        QTest::keyClick(editor_->txtSecs, Qt::Key_End);
+        QTest::keyClick(editor_->txtSecs, Qt::Key_Backspace);
+        QCOMPARE(editor_->txtSecs->text(), QString());
+    }
+
+    void listsActOnTheSameCountChosenAgain_data()
+    {
+        QTest::addColumn<bool>("rounds");
+        QTest::addColumn<QString>("how");
+        for (const bool rounds : {true, false}) {
+            for (const char *how : {"popup", "key", "wheel"})
+                QTest::addRow("%s, %s", rounds ? "rounds" : "categories", how) << rounds << QString::fromLatin1(how);
+        }
+    }
+    void listsActOnTheSameCountChosenAgain()
+    {
+        QFETCH(bool, rounds);
+        QFETCH(QString, how);
+        open(writeSample());
+        QComboBox *list = rounds ? editor_->cmbRounds : editor_->cmbCategories;
+        (rounds ? editor_->optRound[1] : editor_->optCategory[3])->click();
+        QCOMPARE(editor_->txtName->text(), rounds ? QStringLiteral("T10") : QStringLiteral("T03"));
+        editor_->Modified.clear();
+        const int count = list->currentIndex();
+        QCOMPARE(count, list->count() - 1);
+        if (how == QStringLiteral("popup")) {
+            list->showPopup();
+            QAbstractItemView *view = list->view();
+            QTRY_VERIFY(view->isVisible());
+            QCOMPARE(view->currentIndex().row(), count);
+            QTest::keyClick(view, Qt::Key_Return); // the same item chosen in the open list
+            QVERIFY(!view->isVisible());
+        } else if (how == QStringLiteral("key")) {
+            QTest::keyClick(list, char('1' + count));
+        } else {
+            const QPointF centre(list->width() / 2.0, list->height() / 2.0);
+            QWheelEvent down(centre, list->mapToGlobal(centre), {}, QPoint(0, -120), Qt::NoButton, Qt::NoModifier,
+                             Qt::NoScrollPhase, false);
+            QCoreApplication::sendEvent(list, &down); // the last count stays
+        }
+        QCOMPARE(list->currentIndex(), count);
+        QVERIFY(editor_->optRound[0]->isChecked());
+        QVERIFY(editor_->optCategory[0]->isChecked());
+        QCOMPARE(editor_->txtName->text(), QStringLiteral("T00"));
+        QCOMPARE(editor_->Modified, QStringLiteral("X"));
     }
 
     void saveAsWritesTheFieldAsItStands()
