@@ -1,6 +1,5 @@
-// The question editor and the open/save dialog wrapper: the wrapper's
-// rules, editor flows with scripted dialogs and message boxes, and the exact
-// bytes the editor writes.
+// The question editor: editor flows with scripted dialogs and message
+// boxes, its lists and fields, and the exact bytes the editor writes.
 
 #include "ScriptedFileDialog.h"
 #include "ScriptedMsgBox.h"
@@ -9,58 +8,14 @@
 #include "platform/ModuleFileName.h"
 #include "platform/SpecialFolders.h"
 #include "questions/QuestionSet.h"
-#include "questions/clsOpenSaveDlg.h"
 #include "questions/frmEditor.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>
-#include <QFileDialog>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QtTest>
-
-namespace {
-
-// Works the real file dialogs as a host would: each dialog that opens gets
-// the next name typed and accepted (or is cancelled when the names have run
-// out); each message box is read and closed. It acts from the dialogs' own
-// event loops, so nothing waits.
-class DialogHost final : public QObject {
-public:
-    explicit DialogHost(QStringList names) : names_(std::move(names)) { qApp->installEventFilter(this); }
-    ~DialogHost() override { qApp->removeEventFilter(this); }
-
-    QStringList messages;
-
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override
-    {
-        if (event->type() != QEvent::Show)
-            return false;
-        if (auto *dialog = qobject_cast<QFileDialog *>(watched)) {
-            const QString name = names_.isEmpty() ? QString() : names_.takeFirst();
-            QMetaObject::invokeMethod(dialog, [dialog, name] {
-                if (name.isEmpty()) {
-                    dialog->reject();
-                    return;
-                }
-                dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"))->setText(name);
-                static_cast<QDialog *>(dialog)->accept(); // as the Save button does
-            }, Qt::QueuedConnection);
-        } else if (auto *box = qobject_cast<QMessageBox *>(watched)) {
-            messages << box->text();
-            QMetaObject::invokeMethod(box, [box] { box->accept(); }, Qt::QueuedConnection);
-        }
-        return false;
-    }
-
-private:
-    QStringList names_;
-};
-
-} // namespace
 
 class TestEditor : public QObject {
     Q_OBJECT
@@ -136,140 +91,6 @@ private slots:
         boxes_.reset();
         SpecialFolders::overridePath(SpecialFolders::kDocuments, QString());
         dir_.reset();
-    }
-
-    // ------------------------------------------------------------ the wrapper
-
-    void freshWrapperHasItsDefaults()
-    {
-        clsOpenSaveDlg d;
-        QCOMPARE(d.Filter(), QStringLiteral("All Files|*.*"));
-        QCOMPARE(d.FileName(), QString());
-        QCOMPARE(d.FilterIndex(), 0);
-        QCOMPARE(d.Flags().Value(), quint32(0x282A0A));
-        QCOMPARE(clsOpenSaveDlg::kRecordSize, quint32(76));
-        d.setFilterIndex(-3);
-        QCOMPARE(d.FilterIndex(), 0);
-    }
-
-    void splitsThePathIntoParts_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<QString>("nameExt");
-        QTest::addColumn<QString>("nameOnly");
-        QTest::addColumn<QString>("ext");
-        QTest::newRow("full path") << "/home/host/Sets/Quiz.QZ2" << "/home/host/Sets/" << "Quiz.QZ2" << "Quiz" << "QZ2";
-        QTest::newRow("drive letter") << "A:Quiz.QZ2" << "A:/" << "Quiz.QZ2" << "Quiz" << "QZ2";
-        QTest::newRow("name alone") << "Quiz" << "" << "Quiz" << "Quiz" << "";
-        QTest::newRow("dotted folder") << "/a.b/Quiz" << "/a.b/" << "Quiz" << "Quiz" << "";
-    }
-    void splitsThePathIntoParts()
-    {
-        QFETCH(QString, name);
-        QFETCH(QString, path);
-        QFETCH(QString, nameExt);
-        QFETCH(QString, nameOnly);
-        QFETCH(QString, ext);
-        clsOpenSaveDlg d;
-        d.setFileName(name);
-        QCOMPARE(d.PathOnly(), path);
-        QCOMPARE(d.FileNameExtOnly(), nameExt);
-        QCOMPARE(d.FileNameOnly(), nameOnly);
-        QCOMPARE(d.ExtOnly(), ext);
-    }
-
-    void keepsFilterAndNameByTheBufferRules()
-    {
-        clsOpenSaveDlg d;
-        d.setFilter(QStringLiteral("QZ2 Files (*.QZ2)|*.QZ2"));
-        QCOMPARE(d.Filter(), QStringLiteral("QZ2 Files (*.QZ2)|*.QZ2"));
-        d.setFilter(QStringLiteral("A|*.a|B|*.b|"));
-        QCOMPARE(d.Filter(), QStringLiteral("A|*.a|B|*.b"));
-        d.setFilter(QStringLiteral("no bars here"));
-        QCOMPARE(d.Filter(), QString());
-        d.setFileName(QString(259, QLatin1Char('n')));
-        QCOMPARE(d.FileName().size(), 259);
-        d.setFileName(QString(260, QLatin1Char('n')));
-        QCOMPARE(d.FileName(), QString()); // no room for the terminator
-    }
-
-    void flagPropertiesSetTheirBits()
-    {
-        clsOpenSaveDlgFlags f;
-        QCOMPARE(f.Value(), quint32(0));
-        const QList<std::pair<void (clsOpenSaveDlgFlags::*)(bool), quint32>> bits{
-            {&clsOpenSaveDlgFlags::setAllowMultiSelect, 0x200}, {&clsOpenSaveDlgFlags::setCreatePrompt, 0x2000},
-            {&clsOpenSaveDlgFlags::setExplorer, 0x80000},      {&clsOpenSaveDlgFlags::setHideReadOnly, 0x4},
-            {&clsOpenSaveDlgFlags::setLongNames, 0x200000},    {&clsOpenSaveDlgFlags::setNoChangeDir, 0x8},
-            {&clsOpenSaveDlgFlags::setNoDereferenceLinks, 0x100000}, {&clsOpenSaveDlgFlags::setNoLongNames, 0x40000},
-            {&clsOpenSaveDlgFlags::setNoNetworkButton, 0x20000}, {&clsOpenSaveDlgFlags::setNoReadOnlyReturn, 0x8000},
-            {&clsOpenSaveDlgFlags::setNoTestFileCreate, 0x10000}, {&clsOpenSaveDlgFlags::setNoValidate, 0x100},
-            {&clsOpenSaveDlgFlags::setOverwritePrompt, 0x2},   {&clsOpenSaveDlgFlags::setPathMustExist, 0x800},
-            {&clsOpenSaveDlgFlags::setReadOnly, 0x1},          {&clsOpenSaveDlgFlags::setShareAware, 0x4000}};
-        for (const auto &[setter, bit] : bits) {
-            (f.*setter)(true);
-            QCOMPARE(f.Value(), bit);
-            (f.*setter)(false);
-            QCOMPARE(f.Value(), quint32(0));
-        }
-        f.setFileMustExist(true);
-        QCOMPARE(f.Value(), quint32(0x1800));
-        f.setFileMustExist(false);
-        QCOMPARE(f.Value(), quint32(0x800)); // the path must still exist
-        QVERIFY(!f.ExtensionDifferent());
-    }
-
-    void dialogsReceiveTheSettingsAndHandBackThePath()
-    {
-        clsOpenSaveDlg d;
-        d.setFilter(QStringLiteral("PLOV(tm) Quizzarr! QA Files (*.QZ2;*.QZA)|*.QZ2;*.QZA"));
-        d.setInitialDir(QStringLiteral("/sets/"));
-        d.setWindowTitle(QStringLiteral("Open"));
-        d.setFileName(QStringLiteral("Quiz"));
-        d.Flags().setFileMustExist(true);
-        dialogs_->choose(QStringLiteral("/sets/Chosen.QZA"));
-        QVERIFY(d.ShowOpen());
-        const FileDialogRequest &r = dialogs_->requests.last();
-        QVERIFY(!r.save);
-        QCOMPARE(r.title, QStringLiteral("Open"));
-        QCOMPARE(r.initialDir, QStringLiteral("/sets/"));
-        QCOMPARE(r.fileName, QStringLiteral("Quiz"));
-        QCOMPARE(r.filters.size(), 1);
-        QCOMPARE(r.filters[0].first, QStringLiteral("PLOV(tm) Quizzarr! QA Files (*.QZ2;*.QZA)"));
-        QCOMPARE(r.flags, quint32(0x282A0A | 0x1000));
-        QCOMPARE(d.FileName(), QStringLiteral("/sets/Chosen.QZA"));
-        QCOMPARE(d.FilterIndex(), 1);
-        QCOMPARE(CaseInsensitivePatterns(r.filters[0].second),
-                 QStringList({QStringLiteral("*.[Qq][Zz]2"), QStringLiteral("*.[Qq][Zz][Aa]")}));
-        // A cancelled dialog keeps the name.
-        dialogs_->cancel();
-        QVERIFY(!d.ShowSaveAs());
-        QVERIFY(dialogs_->requests.last().save);
-        QCOMPARE(d.FileName(), QStringLiteral("/sets/Chosen.QZA"));
-    }
-
-    void realSaveDialogRefusesAFolderThatDoesNotExist()
-    {
-        dialogs_.reset(); // Qt's own dialog from here on
-        QDir().mkpath(path(QStringLiteral("Sets")));
-        const QString missing = path(QStringLiteral("No such folder/Set.QZ2"));
-        const QString existing = path(QStringLiteral("Sets/Set.QZ2"));
-        clsOpenSaveDlg d; // the wrapper's own flags hold PathMustExist
-        d.setInitialDir(path(QStringLiteral("Sets")));
-        {
-            DialogHost host({missing, existing});
-            QVERIFY(d.ShowSaveAs());
-            QCOMPARE(d.FileName(), existing);
-            QCOMPARE(host.messages.size(), 1);
-            QVERIFY2(host.messages[0].startsWith(missing + QStringLiteral("\n")), qPrintable(host.messages[0]));
-        }
-        // Without the flag the dialog lets the name through.
-        DialogHost careless({missing});
-        d.Flags().setPathMustExist(false);
-        QVERIFY(d.ShowSaveAs());
-        QCOMPARE(d.FileName(), missing);
-        QVERIFY(careless.messages.isEmpty());
     }
 
     // ------------------------------------------------------------- the editor
