@@ -5,6 +5,7 @@
 #include "ScriptedFileDialog.h"
 
 #include "platform/GetPrivateProfileString.h"
+#include "platform/Windows1252.h"
 #include "platform/WriteFileReplacing.h"
 #include "questions/GameReads.h"
 #include "questions/QuestionSet.h"
@@ -292,6 +293,58 @@ private slots:
     }
 
     // ---------------------------------------------------------- reading safely
+
+    void readsByteOrderMarksAsTextPastTheFileStart_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QString>("section");
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QString>("expected");
+        const QByteArray mark(Utf8::kByteOrderMark);
+        const QString feff(QChar(0xFEFF));
+        QTest::newRow("mark at the file start")
+            << mark + "[A]\r\nk=v\r\n" << "A" << "k" << "v";
+        QTest::newRow("value starting with a mark")
+            << mark + "[A]\r\nk=" + mark + "v\r\n" << "A" << "k" << feff + QStringLiteral("v");
+        QTest::newRow("value that is a mark alone")
+            << mark + "[A]\r\nk=" + mark + "\r\n" << "A" << "k" << feff;
+        QTest::newRow("mark before a key is part of the key")
+            << mark + "[A]\r\n" + mark + "k=marked\r\nk=plain\r\n" << "A" << "k" << "plain";
+        QTest::newRow("key asked with its mark")
+            << mark + "[A]\r\n" + mark + "k=marked\r\nk=plain\r\n" << "A" << feff + QStringLiteral("k")
+            << "marked";
+        QTest::newRow("mark inside a section name")
+            << mark + "[A]\r\nk=a\r\n[" + mark + "B]\r\nk=b\r\n" << "B" << "k" << "DEFAULT";
+        QTest::newRow("mark in a file without one at its start")
+            << "[A]\r\nk=" + mark + "v \xc3\xa9\r\n" << "A" << "k" << feff + QStringLiteral("v \u00e9");
+    }
+    void readsByteOrderMarksAsTextPastTheFileStart()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(QString, section);
+        QFETCH(QString, key);
+        QFETCH(QString, expected);
+        const QString file = write(QStringLiteral("marks.QZ2"), content);
+        QCOMPARE(GetPrivateProfileString(section, key, QStringLiteral("DEFAULT"), file), expected);
+    }
+
+    void textsStartingWithAByteOrderMarkReadBackAsWritten()
+    {
+        const QString feff(QChar(0xFEFF));
+        QuestionSet s = distinctSet();
+        s.Description = feff + QStringLiteral("marked description");
+        s.Categories[0][1].Title = feff; // alone, in the middle of the round
+        s.Categories[0][2].Answer[3] = feff + feff + QStringLiteral("twice");
+        const QString file = path(QStringLiteral("Marked.QZ2"));
+        QVERIFY(!WriteQuestionSet(s, file));
+        const QuestionSet back = LoadQuestionSet(file);
+        QCOMPARE(back.Description, s.Description);
+        QCOMPARE(back.CategoryCount[0], qint16(6));
+        QCOMPARE(back.Categories[0][1].Title, feff);
+        QCOMPARE(back.Categories[0][2].Title, s.Categories[0][2].Title);
+        QCOMPARE(back.Categories[0][2].Answer[3], s.Categories[0][2].Answer[3]);
+        QCOMPARE(GameReads::Description(file), s.Description);
+    }
 
     void survivesRandomAndTruncatedInput()
     {

@@ -4,6 +4,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QStringDecoder>
 
 #include <cstring>
 
@@ -38,6 +39,14 @@ bool isAscii(QByteArrayView v)
     return true;
 }
 
+// A byte-order mark inside a name or a value is a character of it: only the
+// one at the very start of the file tells the file's encoding.
+QString decodeUtf8(QByteArrayView bytes)
+{
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
+    return decoder.decode(bytes);
+}
+
 // Names are compared as text; a name with other than ASCII letters is read
 // as UTF-8 when it is valid UTF-8, else in the 8-bit code page.
 bool sameName(QByteArrayView bytes, const QString &name)
@@ -47,7 +56,7 @@ bool sameName(QByteArrayView bytes, const QString &name)
     Utf8::Validator v;
     v.feed(bytes);
     v.finish();
-    const QString decoded = v.valid() ? QString::fromUtf8(bytes) : Windows1252::decode(bytes);
+    const QString decoded = v.valid() ? decodeUtf8(bytes) : Windows1252::decode(bytes);
     return decoded.compare(name, Qt::CaseInsensitive) == 0;
 }
 
@@ -174,7 +183,7 @@ bool sectionName(QByteArrayView line, QByteArrayView &name)
 
 QString decodeValue(QByteArrayView bytes, bool utf8)
 {
-    return utf8 ? QString::fromUtf8(bytes) : Windows1252::decode(bytes);
+    return utf8 ? decodeUtf8(bytes) : Windows1252::decode(bytes);
 }
 
 QString cutToLimit(QString value)
