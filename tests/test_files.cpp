@@ -346,6 +346,42 @@ private slots:
         QCOMPARE(GameReads::Description(file), s.Description);
     }
 
+    void readsLinesOfAnyLength_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QString>("section");
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QString>("expected");
+        const QByteArray blanks(70000, ' ');
+        const QByteArray tabs(70000, '\t');
+        const QByteArray letters(70000, 'x');
+        QTest::newRow("long section line ends the section")
+            << "[A]\r\n[" + letters + "]\r\nk=v\r\n" << "A" << "k" << "DEFAULT";
+        QTest::newRow("section name between long blanks")
+            << "[A]\r\nk=a\r\n[" + blanks + "B" + tabs + "]\r\nk=b\r\n" << "B" << "k" << "b";
+        QTest::newRow("long line without ] is no section")
+            << "[A]\r\n[" + letters + "\r\nk=v\r\n" << "A" << "k" << "v";
+        QTest::newRow("key after long blanks") << "[A]\r\n" + blanks + "k=v\r\n" << "A" << "k" << "v";
+        QTest::newRow("long key is another key")
+            << "[A]\r\n" + letters + "k=w\r\nk=v\r\n" << "A" << "k" << "v";
+        QTest::newRow("value after long blanks") << "[A]\r\nk=" + blanks + "v" + tabs + "\r\n" << "A" << "k" << "v";
+        QTest::newRow("quoted value between long blanks")
+            << "[A]\r\nk=" + blanks + "\"v\"" + blanks << "A" << "k" << "v";
+        QTest::newRow("long blanks inside a value are kept")
+            << "[A]\r\nk=a" + blanks + "b\r\n" << "A" << "k" << QStringLiteral("a") + QString(1998, QLatin1Char(' '));
+        QTest::newRow("long quoted value loses its opening mark")
+            << "[A]\r\nk='" + letters + "'\r\n" << "A" << "k" << QString(1999, QLatin1Char('x'));
+    }
+    void readsLinesOfAnyLength()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(QString, section);
+        QFETCH(QString, key);
+        QFETCH(QString, expected);
+        const QString file = write(QStringLiteral("long.QZ2"), content);
+        QCOMPARE(GetPrivateProfileString(section, key, QStringLiteral("DEFAULT"), file), expected);
+    }
+
     void survivesRandomAndTruncatedInput()
     {
         QRandomGenerator rng(2024);
