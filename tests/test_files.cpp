@@ -19,6 +19,13 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <linux/fs.h>
+#include <sys/ioctl.h>
+#include <unistd.h>
+
 namespace {
 
 // A set with every text distinct, so that a swapped or shifted text shows.
@@ -281,6 +288,32 @@ private slots:
         // No temporary file is left behind by the failures.
         QCOMPARE(QDir(dir_.path()).entryList({QStringLiteral(".quizzarr-save-*")}, QDir::Hidden | QDir::Files),
                  QStringList());
+    }
+
+    // The system's own reason for refusing, not one made up: an unchangeable
+    // file gives "Operation not permitted" as a read-only file system gives
+    // its own words. Setting the flag takes the administrator's right.
+    void saveOverAnUnchangeableFileNamesTheRealCause()
+    {
+        const QString old = write(QStringLiteral("Fixed.QZ2"), "old contents\r\n");
+        const QString source = write(QStringLiteral("Source.QZ2"), "new contents\r\n");
+        const int fd = ::open(QFile::encodeName(old).constData(), O_RDONLY);
+        QVERIFY(fd >= 0);
+        int flags = 0;
+        const bool fixed = ::ioctl(fd, FS_IOC_GETFLAGS, &flags) == 0 &&
+                           (flags |= FS_IMMUTABLE_FL, ::ioctl(fd, FS_IOC_SETFLAGS, &flags) == 0);
+        auto release = qScopeGuard([&] {
+            flags &= ~FS_IMMUTABLE_FL;
+            ::ioctl(fd, FS_IOC_SETFLAGS, &flags);
+            ::close(fd);
+        });
+        if (!fixed)
+            QSKIP("this user or file system cannot make a file unchangeable");
+        const FileError written = WriteQuestionSet(distinctSet(), old);
+        QCOMPARE(written.number, EPERM);
+        QCOMPARE(written.description, QString::fromLocal8Bit(std::strerror(EPERM)));
+        QCOMPARE(CopyFileReplacing(source, old).number, EPERM);
+        QCOMPARE(read(old), QByteArray("old contents\r\n"));
     }
 
     void rewriteKeepsPermissions()
