@@ -445,6 +445,16 @@ private slots:
                         &out),
                  0);
         QCOMPARE(out, QByteArray("-NONE-\n"));
+        // A missing file gives the default as the read returns it, cut to
+        // 1999 characters, with a warning beside it.
+        QByteArray err;
+        const QString longDefault(2500, QLatin1Char('d'));
+        QCOMPARE(runQz2({QStringLiteral("get"), dir_.filePath(QStringLiteral("absent.QZ2")), QStringLiteral("A"),
+                         QStringLiteral("k"), longDefault},
+                        &out, &err),
+                 0);
+        QCOMPARE(out, QByteArray(1999, 'd') + '\n');
+        QVERIFY(err.contains("absent.QZ2"));
     }
 
     void qz2ShowPrintsTheLoadedSetAsJson()
