@@ -20,10 +20,12 @@
 #include <QtTest>
 
 #include <cerrno>
+#include <csignal>
 #include <cstring>
 #include <fcntl.h>
 #include <linux/fs.h>
 #include <sys/ioctl.h>
+#include <sys/resource.h>
 #include <unistd.h>
 
 namespace {
@@ -314,6 +316,64 @@ private slots:
         QCOMPARE(written.description, QString::fromLocal8Bit(std::strerror(EPERM)));
         QCOMPARE(CopyFileReplacing(source, old).number, EPERM);
         QCOMPARE(read(old), QByteArray("old contents\r\n"));
+    }
+
+    // The disk fills up in the middle of a save: the old file stays whole,
+    // as the new one is written beside it and only then takes its place. A
+    // limit on the size of files makes the write fail partway, for any user.
+    void saveThatFailsPartwayKeepsTheOldFile_data()
+    {
+        QTest::addColumn<bool>("copy");
+        QTest::newRow("writing a set") << false;
+        QTest::newRow("copying a file") << true;
+    }
+    void saveThatFailsPartwayKeepsTheOldFile()
+    {
+        QFETCH(bool, copy);
+        const QByteArray before = "[Round1]\r\nDescription=The old set\r\n";
+        const QString old = write(QStringLiteral("Full.QZ2"), before);
+        const QString source = write(QStringLiteral("Big.QZ2"), QuestionSetFileBytes(distinctSet()));
+        QVERIFY(QFileInfo(source).size() > 1024);
+        rlimit saved{};
+        QVERIFY(::getrlimit(RLIMIT_FSIZE, &saved) == 0);
+        rlimit small = saved;
+        small.rlim_cur = 1024;
+        const auto handler = std::signal(SIGXFSZ, SIG_IGN); // the write fails instead of the program
+        QVERIFY(::setrlimit(RLIMIT_FSIZE, &small) == 0);
+        const FileError error = copy ? CopyFileReplacing(source, old) : WriteQuestionSet(distinctSet(), old);
+        ::setrlimit(RLIMIT_FSIZE, &saved);
+        std::signal(SIGXFSZ, handler);
+        QCOMPARE(error.number, EFBIG);
+        QCOMPARE(read(old), before);
+        QCOMPARE(QDir(dir_.path()).entryList({QStringLiteral(".quizzarr-save-*")}, QDir::Hidden | QDir::Files),
+                 QStringList());
+    }
+
+    void copyOntoItselfFailsHoweverThePathIsSpelled_data()
+    {
+        QTest::addColumn<QString>("spelling");
+        QTest::newRow("the same path") << "Sets/a.QZ2";
+        QTest::newRow("through a dot") << "Sets/./a.QZ2";
+        QTest::newRow("up and down again") << "Sets/../Sets/a.QZ2";
+        QTest::newRow("doubled separator") << "Sets//a.QZ2";
+        QTest::newRow("through a linked folder") << "Linked/a.QZ2";
+        QTest::newRow("through a link to the file") << "link.QZ2";
+    }
+    void copyOntoItselfFailsHoweverThePathIsSpelled()
+    {
+        QFETCH(QString, spelling);
+        QTemporaryDir dir;
+        const QString file = dir.filePath(QStringLiteral("Sets/a.QZ2"));
+        QVERIFY(QDir(dir.path()).mkdir(QStringLiteral("Sets")));
+        QFile f(file);
+        QVERIFY(f.open(QIODevice::WriteOnly) && f.write("[Round1]\r\nDescription=Mine\r\n") > 0);
+        f.close();
+        QVERIFY(QFile::link(dir.filePath(QStringLiteral("Sets")), dir.filePath(QStringLiteral("Linked"))));
+        QVERIFY(QFile::link(file, dir.filePath(QStringLiteral("link.QZ2"))));
+        const FileError error = CopyFileReplacing(file, dir.path() + QLatin1Char('/') + spelling);
+        QCOMPARE(error.number, EEXIST);
+        QCOMPARE(read(file), QByteArray("[Round1]\r\nDescription=Mine\r\n"));
+        QVERIFY(QFileInfo(dir.filePath(QStringLiteral("link.QZ2"))).isSymLink());
     }
 
     void rewriteKeepsPermissions()
