@@ -20,6 +20,9 @@
 
 namespace {
 
+constexpr const char *kSoundOperations[] = {"PLOV_InitSound",      "PLOV_LoadSound",   "PLOV_PlaySound",
+                                            "PLOV_GetSoundStatus", "PLOV_UnloadSound", "PLOV_Shutdown"};
+
 // Makes the game believe it runs as its own executable (or not).
 void forceRunningCompiled(bool compiled)
 {
@@ -149,6 +152,34 @@ private slots:
         QVERIFY(!basPLOVQuzr::hSoundLib);
         QCOMPARE(boxes.shown.size(), 1);
         QVERIFY(boxes.shown[0].text.endsWith(QStringLiteral("but with no sounds.")));
+        visibleWindowTitled(QStringLiteral("Select the question set to use"))->close();
+    }
+
+    void soundLibraryLackingAnOperationCountsAsMissing_data()
+    {
+        QTest::addColumn<QString>("missing");
+        for (const char *operation : kSoundOperations)
+            QTest::newRow(operation) << QString::fromLatin1(operation);
+    }
+    void soundLibraryLackingAnOperationCountsAsMissing()
+    {
+        QFETCH(QString, missing);
+        const QString variant = QStringLiteral(FAKE_SOUND_VARIANTS "/") + missing + QStringLiteral("/PLOVQSnd.so");
+        QLibrary lacking(variant);
+        QVERIFY2(lacking.load(), qPrintable(lacking.errorString()));
+        for (const char *operation : kSoundOperations)
+            QCOMPARE(lacking.resolve(operation) != nullptr, missing != QLatin1String(operation));
+        TestFolder folder;
+        QVERIFY(QFile::copy(QStringLiteral(QUIZZARR_PROGRAM_DIR "/PLOVQBmp.so"), folder.file(QStringLiteral("PLOVQBmp.so"))));
+        QVERIFY(QFile::copy(variant, folder.file(QStringLiteral("PLOVQSnd.so"))));
+        ScriptedMsgBox boxes;
+
+        basPLOVQuzr::Main();
+
+        QVERIFY(!basPLOVQuzr::hSoundLib);
+        QCOMPARE(boxes.shown.size(), 1);
+        QCOMPARE(boxes.shown[0].text, QStringLiteral("Unable to load ") + folder.file(QStringLiteral("PLOVQSnd.so")) +
+                                          QStringLiteral(". The game will still work, but with no sounds."));
         visibleWindowTitled(QStringLiteral("Select the question set to use"))->close();
     }
 
