@@ -41,6 +41,31 @@ int largestFittingSize(const QString &text, qreal from, qreal w, qreal h)
     return best;
 }
 
+// Where the fitting must end, found one point at a time: the oracle for
+// its climb in steps of 10. A text that fits at `from` ends at the last size
+// before the first that fails. One that does not ends one point below
+// `from` up to 10; above, at the last fitting size counting up from nine
+// below `from`, or else at the largest that fits below that.
+int sizeFoundPointByPoint(const QString &text, int from, qreal w, qreal h)
+{
+    auto fits = [&](int s) { return s >= 1 && TextFits(bold(s), WrapText(text, bold(s), qRound(w)), w, h); };
+    auto lastBeforeFailing = [&](int s) {
+        while (fits(s + 1))
+            ++s;
+        return s;
+    };
+    if (fits(from))
+        return lastBeforeFailing(from);
+    if (from <= 10)
+        return from - 1;
+    if (fits(from - 9))
+        return lastBeforeFailing(from - 9);
+    int s = from - 10;
+    while (s > 1 && !fits(s))
+        --s;
+    return s;
+}
+
 struct Frame {
     QRect geometry;
     qreal fontSize;
@@ -211,6 +236,32 @@ private slots:
         QCOMPARE(int(c.fontSize()), largestFittingSize(text, 8, box.width(), box.height()));
         QVERIFY(TextFits(c.font(), c.caption(), box.width(), box.height()));
         QCOMPARE(c.caption().remove(QLatin1Char('\n')).remove(QLatin1Char(' ')), QString(text).remove(QLatin1Char(' ')));
+    }
+
+    void crammedTextEndsWhereAPointByPointClimbEnds_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("start");
+        for (const int start : {8, 10, 23}) {
+            for (const char *text : {"$400", "Animal Kingdom", "What is the tallest mountain on Earth?"})
+                QTest::addRow("%s from %d", text, start) << QString::fromLatin1(text) << start;
+        }
+    }
+    void crammedTextEndsWhereAPointByPointClimbEnds()
+    {
+        QFETCH(QString, text);
+        QFETCH(int, start);
+        int boxes = 0;
+        for (int w = 14; w <= 420; w += 17) {
+            for (int h = 10; h <= 330; h += 16) {
+                const qreal got = CramText(text, bold(start), start, w, h).points;
+                const int expected = sizeFoundPointByPoint(text, start, w, h);
+                if (int(got) != expected)
+                    QFAIL(qPrintable(QStringLiteral("box %1 x %2: %3 instead of %4").arg(w).arg(h).arg(got).arg(expected)));
+                ++boxes;
+            }
+        }
+        QCOMPARE(boxes, 24 * 21);
     }
 
     void fittingEdgeCases()

@@ -1,16 +1,17 @@
-// The question editor and the open/save dialog wrapper: the wrapper's
-// rules, editor flows with scripted dialogs and message boxes, and the exact
-// bytes the editor writes.
+// The question editor: editor flows with scripted dialogs and message
+// boxes, its lists and fields, and the exact bytes the editor writes.
 
 #include "ScriptedFileDialog.h"
 #include "ScriptedMsgBox.h"
 
-#include "ui/controls/CaptionControl.h"
+#include "platform/ModuleFileName.h"
 #include "platform/SpecialFolders.h"
 #include "questions/QuestionSet.h"
 #include "questions/clsOpenSaveDlg.h"
+#include "ui/controls/CaptionControl.h"
 #include "ui/editor/frmEditor.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
@@ -91,117 +92,6 @@ private slots:
         boxes_.reset();
         SpecialFolders::overridePath(SpecialFolders::kDocuments, QString());
         dir_.reset();
-    }
-
-    // ------------------------------------------------------------ the wrapper
-
-    void freshWrapperHasItsDefaults()
-    {
-        clsOpenSaveDlg d;
-        QCOMPARE(d.Filter(), QStringLiteral("All Files|*.*"));
-        QCOMPARE(d.FileName(), QString());
-        QCOMPARE(d.FilterIndex(), 0);
-        QCOMPARE(d.Flags().Value(), quint32(0x282A0A));
-        QCOMPARE(clsOpenSaveDlg::kRecordSize, quint32(76));
-        d.setFilterIndex(-3);
-        QCOMPARE(d.FilterIndex(), 0);
-    }
-
-    void splitsThePathIntoParts_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<QString>("nameExt");
-        QTest::addColumn<QString>("nameOnly");
-        QTest::addColumn<QString>("ext");
-        QTest::newRow("full path") << "/home/host/Sets/Quiz.QZ2" << "/home/host/Sets/" << "Quiz.QZ2" << "Quiz" << "QZ2";
-        QTest::newRow("drive letter") << "A:Quiz.QZ2" << "A:/" << "Quiz.QZ2" << "Quiz" << "QZ2";
-        QTest::newRow("name alone") << "Quiz" << "" << "Quiz" << "Quiz" << "";
-        QTest::newRow("dotted folder") << "/a.b/Quiz" << "/a.b/" << "Quiz" << "Quiz" << "";
-    }
-    void splitsThePathIntoParts()
-    {
-        QFETCH(QString, name);
-        QFETCH(QString, path);
-        QFETCH(QString, nameExt);
-        QFETCH(QString, nameOnly);
-        QFETCH(QString, ext);
-        clsOpenSaveDlg d;
-        d.setFileName(name);
-        QCOMPARE(d.PathOnly(), path);
-        QCOMPARE(d.FileNameExtOnly(), nameExt);
-        QCOMPARE(d.FileNameOnly(), nameOnly);
-        QCOMPARE(d.ExtOnly(), ext);
-    }
-
-    void keepsFilterAndNameByTheBufferRules()
-    {
-        clsOpenSaveDlg d;
-        d.setFilter(QStringLiteral("QZ2 Files (*.QZ2)|*.QZ2"));
-        QCOMPARE(d.Filter(), QStringLiteral("QZ2 Files (*.QZ2)|*.QZ2"));
-        d.setFilter(QStringLiteral("A|*.a|B|*.b|"));
-        QCOMPARE(d.Filter(), QStringLiteral("A|*.a|B|*.b"));
-        d.setFilter(QStringLiteral("no bars here"));
-        QCOMPARE(d.Filter(), QString());
-        d.setFileName(QString(259, QLatin1Char('n')));
-        QCOMPARE(d.FileName().size(), 259);
-        d.setFileName(QString(260, QLatin1Char('n')));
-        QCOMPARE(d.FileName(), QString()); // no room for the terminator
-    }
-
-    void flagPropertiesSetTheirBits()
-    {
-        clsOpenSaveDlgFlags f;
-        QCOMPARE(f.Value(), quint32(0));
-        const QList<std::pair<void (clsOpenSaveDlgFlags::*)(bool), quint32>> bits{
-            {&clsOpenSaveDlgFlags::setAllowMultiSelect, 0x200}, {&clsOpenSaveDlgFlags::setCreatePrompt, 0x2000},
-            {&clsOpenSaveDlgFlags::setExplorer, 0x80000},      {&clsOpenSaveDlgFlags::setHideReadOnly, 0x4},
-            {&clsOpenSaveDlgFlags::setLongNames, 0x200000},    {&clsOpenSaveDlgFlags::setNoChangeDir, 0x8},
-            {&clsOpenSaveDlgFlags::setNoDereferenceLinks, 0x100000}, {&clsOpenSaveDlgFlags::setNoLongNames, 0x40000},
-            {&clsOpenSaveDlgFlags::setNoNetworkButton, 0x20000}, {&clsOpenSaveDlgFlags::setNoReadOnlyReturn, 0x8000},
-            {&clsOpenSaveDlgFlags::setNoTestFileCreate, 0x10000}, {&clsOpenSaveDlgFlags::setNoValidate, 0x100},
-            {&clsOpenSaveDlgFlags::setOverwritePrompt, 0x2},   {&clsOpenSaveDlgFlags::setPathMustExist, 0x800},
-            {&clsOpenSaveDlgFlags::setReadOnly, 0x1},          {&clsOpenSaveDlgFlags::setShareAware, 0x4000}};
-        for (const auto &[setter, bit] : bits) {
-            (f.*setter)(true);
-            QCOMPARE(f.Value(), bit);
-            (f.*setter)(false);
-            QCOMPARE(f.Value(), quint32(0));
-        }
-        f.setFileMustExist(true);
-        QCOMPARE(f.Value(), quint32(0x1800));
-        f.setFileMustExist(false);
-        QCOMPARE(f.Value(), quint32(0x800)); // the path must still exist
-        QVERIFY(!f.ExtensionDifferent());
-    }
-
-    void dialogsReceiveTheSettingsAndHandBackThePath()
-    {
-        clsOpenSaveDlg d;
-        d.setFilter(QStringLiteral("PLOV(tm) Quizzarr! QA Files (*.QZ2;*.QZA)|*.QZ2;*.QZA"));
-        d.setInitialDir(QStringLiteral("/sets/"));
-        d.setWindowTitle(QStringLiteral("Open"));
-        d.setFileName(QStringLiteral("Quiz"));
-        d.Flags().setFileMustExist(true);
-        dialogs_->choose(QStringLiteral("/sets/Chosen.QZA"));
-        QVERIFY(d.ShowOpen());
-        const FileDialogRequest &r = dialogs_->requests.last();
-        QVERIFY(!r.save);
-        QCOMPARE(r.title, QStringLiteral("Open"));
-        QCOMPARE(r.initialDir, QStringLiteral("/sets/"));
-        QCOMPARE(r.fileName, QStringLiteral("Quiz"));
-        QCOMPARE(r.filters.size(), 1);
-        QCOMPARE(r.filters[0].first, QStringLiteral("PLOV(tm) Quizzarr! QA Files (*.QZ2;*.QZA)"));
-        QCOMPARE(r.flags, quint32(0x282A0A | 0x1000));
-        QCOMPARE(d.FileName(), QStringLiteral("/sets/Chosen.QZA"));
-        QCOMPARE(d.FilterIndex(), 1);
-        QCOMPARE(CaseInsensitivePatterns(r.filters[0].second),
-                 QStringList({QStringLiteral("*.[Qq][Zz]2"), QStringLiteral("*.[Qq][Zz][Aa]")}));
-        // A cancelled dialog keeps the name.
-        dialogs_->cancel();
-        QVERIFY(!d.ShowSaveAs());
-        QVERIFY(dialogs_->requests.last().save);
-        QCOMPARE(d.FileName(), QStringLiteral("/sets/Chosen.QZA"));
     }
 
     // ------------------------------------------------------------- the editor
@@ -322,6 +212,10 @@ private slots:
         QTest::addColumn<QString>("shown");
         QTest::newRow("7 stays") << "7" << "7";
         QTest::newRow("3 becomes 20") << "3" << "20";
+        QTest::newRow("4 becomes 20") << "4" << "20";
+        QTest::newRow("5 stays") << "5" << "5";
+        QTest::newRow("60 stays") << "60" << "60";
+        QTest::newRow("61 becomes 20") << "61" << "20";
         QTest::newRow("75 becomes 20") << "75" << "20";
         QTest::newRow("empty becomes 20") << "" << "20";
         QTest::newRow("letters are dropped") << "4x5" << "45";
@@ -339,6 +233,62 @@ private slots:
         QCoreApplication::sendEvent(editor_->txtSecs, &out);
         QCOMPARE(editor_->txtSecs->text(), shown);
         QCOMPARE(int(editor_->questionSet.Timer), shown.toInt());
+    }
+
+    void secondsFieldLetsKeysThatTypeNothingThrough()
+    {
+        open();
+        editor_->txtSecs->setFocus();
+        editor_->txtSecs->setText(QStringLiteral("45"));
+        editor_->txtSecs->setCursorPosition(0);
+        QKeyEvent del(QEvent::KeyPress, Qt::Key_Delete, Qt::NoModifier, QString(QChar(0x7F))); // as X11 gives it
+        QCoreApplication::sendEvent(editor_->txtSecs, &del);
+        QCOMPARE(editor_->txtSecs->text(), QStringLiteral("5"));
+        QTest::keyClick(editor_->txtSecs, Qt::Key_End);
+        QTest::keyClick(editor_->txtSecs, Qt::Key_Backspace);
+        QCOMPARE(editor_->txtSecs->text(), QString());
+    }
+
+    void listsActOnTheSameCountChosenAgain_data()
+    {
+        QTest::addColumn<bool>("rounds");
+        QTest::addColumn<QString>("how");
+        for (const bool rounds : {true, false}) {
+            for (const char *how : {"popup", "key", "wheel"})
+                QTest::addRow("%s, %s", rounds ? "rounds" : "categories", how) << rounds << QString::fromLatin1(how);
+        }
+    }
+    void listsActOnTheSameCountChosenAgain()
+    {
+        QFETCH(bool, rounds);
+        QFETCH(QString, how);
+        open(writeSample());
+        QComboBox *list = rounds ? editor_->cmbRounds : editor_->cmbCategories;
+        (rounds ? editor_->optRound[1] : editor_->optCategory[3])->click();
+        QCOMPARE(editor_->txtName->text(), rounds ? QStringLiteral("T10") : QStringLiteral("T03"));
+        editor_->Modified.clear();
+        const int count = list->currentIndex();
+        QCOMPARE(count, list->count() - 1);
+        if (how == QStringLiteral("popup")) {
+            list->showPopup();
+            QAbstractItemView *view = list->view();
+            QTRY_VERIFY(view->isVisible());
+            QCOMPARE(view->currentIndex().row(), count);
+            QTest::keyClick(view, Qt::Key_Return); // the same item chosen in the open list
+            QVERIFY(!view->isVisible());
+        } else if (how == QStringLiteral("key")) {
+            QTest::keyClick(list, char('1' + count));
+        } else {
+            const QPointF centre(list->width() / 2.0, list->height() / 2.0);
+            QWheelEvent down(centre, list->mapToGlobal(centre), {}, QPoint(0, -120), Qt::NoButton, Qt::NoModifier,
+                             Qt::NoScrollPhase, false);
+            QCoreApplication::sendEvent(list, &down); // the last count stays
+        }
+        QCOMPARE(list->currentIndex(), count);
+        QVERIFY(editor_->optRound[0]->isChecked());
+        QVERIFY(editor_->optCategory[0]->isChecked());
+        QCOMPARE(editor_->txtName->text(), QStringLiteral("T00"));
+        QCOMPARE(editor_->Modified, QStringLiteral("X"));
     }
 
     void saveAsWritesTheFieldAsItStands()
@@ -434,6 +384,31 @@ private slots:
         editor_->mnuSave->trigger();
         QVERIFY(read(path(QStringLiteral("Old.QZ2"))).contains("Answer0=It has a red breast.\r\n"));
         QVERIFY(read(legacy).contains("Question0=It has a red breast."));
+    }
+
+    void dialogsStartInADocumentsFolderThatExists_data()
+    {
+        QTest::addColumn<bool>("save");
+        QTest::addColumn<QString>("documents");
+        QTest::addColumn<QString>("start");
+        QTest::newRow("open, folder missing: made") << false << "Fresh/Documents" << "Fresh/Documents/";
+        QTest::newRow("save, folder missing: made") << true << "Fresh/Documents" << "Fresh/Documents/";
+        QTest::newRow("open, cannot be made: program folder") << false << "file/Documents" << "";
+        QTest::newRow("save, cannot be made: program folder") << true << "file/Documents" << "";
+    }
+    void dialogsStartInADocumentsFolderThatExists()
+    {
+        QFETCH(bool, save);
+        QFETCH(QString, documents);
+        QFETCH(QString, start);
+        QVERIFY(QFile(path(QStringLiteral("file"))).open(QIODevice::WriteOnly)); // a file where a folder would go
+        SpecialFolders::overridePath(SpecialFolders::kDocuments, path(documents));
+        open();
+        dialogs_->cancel();
+        (save ? editor_->mnuSave : editor_->mnuOpen)->trigger();
+        const QString expected = start.isEmpty() ? ModuleFileName::programFolder() : path(start);
+        QCOMPARE(dialogs_->requests.last().initialDir, expected);
+        QVERIFY(QFileInfo(expected).isDir());
     }
 
     void failedSaveShowsTheErrorAndKeepsTheSetModified()

@@ -1,6 +1,6 @@
 // Question sets on disk: the reading rules every reader shares, the
 // editor's loader with its defaults, the writer's exact bytes, legacy
-// files, encodings, bad input, and the qz2 tool.
+// files, encodings, and the qz2 tool.
 
 #include "platform/GetPrivateProfileString.h"
 #include "platform/Windows1252.h"
@@ -8,13 +8,10 @@
 #include "questions/QuestionSet.h"
 
 #include <QDir>
-#include <QElapsedTimer>
 #include <QProcess>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QtTest>
-
-#include <sys/stat.h>
 
 namespace {
 
@@ -89,27 +86,6 @@ QString randomText(QRandomGenerator &rng, bool eightBitOnly)
     while (!s.isEmpty() && (s.front() == QLatin1Char('"') || s.front() == QLatin1Char('\'')))
         s.remove(0, 1);
     return s.isEmpty() ? QStringLiteral("x") : s;
-}
-
-// Starts measuring the process's peak memory afresh (Linux).
-void resetPeakMemory()
-{
-    QFile clear(QStringLiteral("/proc/self/clear_refs"));
-    if (clear.open(QIODevice::WriteOnly))
-        clear.write("5");
-}
-
-// The process's peak resident memory since the last reset (Linux), in KiB.
-qint64 peakMemoryKiB()
-{
-    QFile status(QStringLiteral("/proc/self/status"));
-    if (!status.open(QIODevice::ReadOnly))
-        return 0;
-    for (const QByteArray &line : status.readAll().split('\n')) {
-        if (line.startsWith("VmHWM:"))
-            return line.mid(6).trimmed().split(' ').value(0).toLongLong();
-    }
-    return 0;
 }
 
 QString programFile(const char *name)
@@ -455,87 +431,6 @@ private slots:
         QCOMPARE(GameReads::Description(path), s.Description);
     }
 
-    void failedWriteReportsAndKeepsTheOldFile()
-    {
-        const QuestionSet s = distinctSet();
-        const FileError missing = WriteQuestionSet(s, dir_.filePath(QStringLiteral("no/such/folder/Set")));
-        QCOMPARE(missing.number, ENOENT);
-        QVERIFY(!missing.description.isEmpty());
-
-        const QString old = write(QStringLiteral("Locked.QZ2"), "old contents\r\n");
-        QVERIFY(QFile::setPermissions(old, QFileDevice::ReadOwner | QFileDevice::ReadGroup));
-        const FileError locked = WriteQuestionSet(s, old);
-        QCOMPARE(locked.number, EACCES);
-        QCOMPARE(read(old), QByteArray("old contents\r\n"));
-
-        QDir(dir_.path()).mkdir(QStringLiteral("readonly"));
-        const QString folder = dir_.filePath(QStringLiteral("readonly"));
-        QVERIFY(QFile::setPermissions(folder, QFileDevice::ReadOwner | QFileDevice::ExeOwner));
-        QCOMPARE(WriteQuestionSet(s, folder + QStringLiteral("/Set")).number, EACCES);
-        QVERIFY(QFile::setPermissions(folder, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner));
-
-        // No temporary file is left behind by the failures.
-        QCOMPARE(QDir(dir_.path()).entryList({QStringLiteral(".quizzarr-save-*")}, QDir::Hidden | QDir::Files),
-                 QStringList());
-    }
-
-    void rewriteKeepsPermissions()
-    {
-        const QString path = write(QStringLiteral("Perm.QZ2"), "x");
-        QVERIFY(QFile::setPermissions(path, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ReadOther));
-        QVERIFY(!WriteQuestionSet(distinctSet(), path));
-        QCOMPARE(QFile::permissions(path) & (QFileDevice::ReadOther | QFileDevice::WriteOther),
-                 QFileDevice::Permissions(QFileDevice::ReadOther));
-    }
-
-    void survivesRandomAndTruncatedInput()
-    {
-        QRandomGenerator rng(2024);
-        const QByteArray good = QuestionSetFileBytes(distinctSet());
-        QElapsedTimer timer;
-        timer.start();
-        for (int n = 0; n < 300; ++n) {
-            QByteArray bytes;
-            if (n % 3 == 0) {
-                bytes = good.left(int(rng.bounded(good.size())));
-            } else {
-                bytes.resize(int(rng.bounded(5000)));
-                for (char &c : bytes)
-                    c = char(n % 3 == 1 ? rng.bounded(256) : "[]=\r\n\"' aR1\xc3\xa9"[rng.bounded(14)]);
-            }
-            const QString path = write(QStringLiteral("fuzz.QZ2"), bytes);
-            const QuestionSet s = LoadQuestionSet(path);
-            QVERIFY(s.RoundCount == 1 || s.RoundCount == 2);
-            QVERIFY(s.Timer >= 5 && s.Timer <= 60);
-            QVERIFY(GameReads::Description(path).size() <= 1999);
-        }
-        QVERIFY2(timer.elapsed() < 20000, "300 loads of small files took far too long");
-    }
-
-    void bigBinaryFileAnswersWithoutBeingHeldInMemory()
-    {
-        // 64 MB of random bytes without a line end after the key: one
-        // "line" that must never be held whole.
-        QByteArray block(1 << 20, '\0');
-        QRandomGenerator rng(7);
-        for (char &c : block)
-            c = char(rng.bounded(256));
-        block.replace('\n', 'z');
-        const QString path = dir_.filePath(QStringLiteral("binary.QZ2"));
-        QFile f(path);
-        QVERIFY(f.open(QIODevice::WriteOnly));
-        f.write("[Round1]\r\nDescription=");
-        for (int i = 0; i < 64; ++i)
-            f.write(block);
-        f.close();
-        resetPeakMemory();
-        const qint64 before = peakMemoryKiB();
-        const QString value = GameReads::Description(path);
-        QCOMPARE(value.size(), 1999);
-        QCOMPARE(GameReads::ColumnTitle(path, 1, 0), QString());
-        QVERIFY2(peakMemoryKiB() - before < 16 * 1024, "the reader held the file in memory");
-    }
-
     void qz2GetPrintsTheReadValue()
     {
         const QString path = write(QStringLiteral("get.QZ2"), "[Round1]\r\nDescription= \"Caf\xe9 set\" \r\n");
@@ -550,6 +445,16 @@ private slots:
                         &out),
                  0);
         QCOMPARE(out, QByteArray("-NONE-\n"));
+        // A missing file gives the default as the read returns it, cut to
+        // 1999 characters, with a warning beside it.
+        QByteArray err;
+        const QString longDefault(2500, QLatin1Char('d'));
+        QCOMPARE(runQz2({QStringLiteral("get"), dir_.filePath(QStringLiteral("absent.QZ2")), QStringLiteral("A"),
+                         QStringLiteral("k"), longDefault},
+                        &out, &err),
+                 0);
+        QCOMPARE(out, QByteArray(1999, 'd') + '\n');
+        QVERIFY(err.contains("absent.QZ2"));
     }
 
     void qz2ShowPrintsTheLoadedSetAsJson()

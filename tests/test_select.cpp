@@ -106,6 +106,8 @@ private slots:
         program_ = std::make_unique<TestFolder>();
         documents_ = std::make_unique<QTemporaryDir>();
         SpecialFolders::overridePath(SpecialFolders::kDocuments, documents_->path());
+        // The dialogs make a missing desktop folder: never the real one.
+        SpecialFolders::overridePath(SpecialFolders::kDesktop, documents_->filePath(QStringLiteral("Desktop")));
         boxes_ = std::make_unique<ScriptedMsgBox>();
         clock_ = std::make_unique<FakeClock>();
         dialogs_ = std::make_unique<ScriptedFileDialog>();
@@ -121,6 +123,7 @@ private slots:
         dialogs_.reset();
         boxes_.reset();
         SpecialFolders::overridePath(SpecialFolders::kDocuments, QString());
+        SpecialFolders::overridePath(SpecialFolders::kDesktop, QString());
         documents_.reset();
         program_.reset();
         libraries_.ShutdownLibraries();
@@ -486,6 +489,28 @@ private slots:
         home_->mnuImportAnother->trigger();
         QCOMPARE(home_->lstQuestions->currentRow(), 0);
         SpecialFolders::overrideRemovableMedia(QString());
+    }
+
+    void importAndExportStartInFoldersMadeWhenMissing()
+    {
+        program_->write(QStringLiteral("a.QZ2"), playable("A"));
+        const QString desktop = docs() + QStringLiteral("Fresh/Desktop");
+        const QString documents = docs() + QStringLiteral("Fresh/Documents");
+        SpecialFolders::overridePath(SpecialFolders::kDesktop, desktop);
+        SpecialFolders::overridePath(SpecialFolders::kDocuments, documents);
+        openHome();
+        home_->lstQuestions->setCurrentRow(0);
+        dialogs_->cancel();
+        home_->mnuExportAnother->trigger();
+        QCOMPARE(dialogs_->requests.last().initialDir, desktop + QLatin1Char('/'));
+        QVERIFY(QFileInfo(desktop).isDir());
+        QVERIFY(QDir().rmdir(desktop));
+        dialogs_->choose(program_->file(QStringLiteral("a.QZ2")));
+        home_->mnuImportAnother->trigger();
+        QCOMPARE(dialogs_->requests.last().initialDir, desktop + QLatin1Char('/'));
+        QVERIFY(QFileInfo(desktop).isDir());
+        QVERIFY(QFile::exists(documents + QStringLiteral("/a.QZ2")));
+        QVERIFY(boxes_->shown.isEmpty());
     }
 
     void editorSavesANewSetThatTheListThenShows()

@@ -24,6 +24,9 @@
 
 namespace {
 
+constexpr const char *kSoundOperations[] = {"PLOV_InitSound",      "PLOV_LoadSound",   "PLOV_PlaySound",
+                                            "PLOV_GetSoundStatus", "PLOV_UnloadSound", "PLOV_Shutdown"};
+
 // Makes the game believe it runs as its own executable (or not).
 void forceRunningCompiled(bool compiled)
 {
@@ -52,6 +55,7 @@ class TestShell : public QObject {
 private slots:
     void cleanup()
     {
+        ModuleFileName::declareGameExecutable(false);
         ModuleFileName::overridePath(QString());
         ModuleFileName::overrideProgramFolder(QString());
         basDetectDevEnv::ForgetRunMode();
@@ -158,6 +162,34 @@ private slots:
         visibleWindowTitled(QStringLiteral("Select the question set to use"))->close();
     }
 
+    void soundLibraryLackingAnOperationCountsAsMissing_data()
+    {
+        QTest::addColumn<QString>("missing");
+        for (const char *operation : kSoundOperations)
+            QTest::newRow(operation) << QString::fromLatin1(operation);
+    }
+    void soundLibraryLackingAnOperationCountsAsMissing()
+    {
+        QFETCH(QString, missing);
+        const QString variant = QStringLiteral(FAKE_SOUND_VARIANTS "/") + missing + QStringLiteral("/PLOVQSnd.so");
+        QLibrary lacking(variant);
+        QVERIFY2(lacking.load(), qPrintable(lacking.errorString()));
+        for (const char *operation : kSoundOperations)
+            QCOMPARE(lacking.resolve(operation) != nullptr, missing != QLatin1String(operation));
+        TestFolder folder;
+        QVERIFY(QFile::copy(QStringLiteral(QUIZZARR_PROGRAM_DIR "/PLOVQBmp.so"), folder.file(QStringLiteral("PLOVQBmp.so"))));
+        QVERIFY(QFile::copy(variant, folder.file(QStringLiteral("PLOVQSnd.so"))));
+        ScriptedMsgBox boxes;
+
+        basPLOVQuzr::Main(state_, libraries_);
+
+        QVERIFY(!libraries_.hSoundLib);
+        QCOMPARE(boxes.shown.size(), 1);
+        QCOMPARE(boxes.shown[0].text, QStringLiteral("Unable to load ") + folder.file(QStringLiteral("PLOVQSnd.so")) +
+                                          QStringLiteral(". The game will still work, but with no sounds."));
+        visibleWindowTitled(QStringLiteral("Select the question set to use"))->close();
+    }
+
     void libraryPathAtFileSystemRootHasOneSeparator()
     {
         ModuleFileName::overrideProgramFolder(QStringLiteral("/"));
@@ -170,24 +202,35 @@ private slots:
         visibleWindowTitled(QStringLiteral("Select the question set to use"))->close();
     }
 
-    void runModeComparesExecutableWithGameName_data()
+    void runModeComparesExecutableWithItsOwnName_data()
     {
+        QTest::addColumn<bool>("declared");
         QTest::addColumn<QString>("folder");
         QTest::addColumn<QString>("module");
         QTest::addColumn<bool>("compiled");
-        QTest::newRow("the game itself") << "/opt/quiz/" << "/opt/quiz/quizzarr" << true;
-        QTest::newRow("letter case ignored") << "/opt/quiz/" << "/OPT/Quiz/Quizzarr" << true;
-        QTest::newRow("extension cut") << "/opt/quiz/" << "/opt/quiz/quizzarr.bin" << true;
-        QTest::newRow("dot in a folder name is kept") << "/opt/my.games/" << "/opt/my.games/quizzarr" << true;
-        QTest::newRow("dot in a folder, other program") << "/opt/my.games/" << "/opt/my.games/ide" << false;
-        QTest::newRow("another program") << "/opt/quiz/" << "/usr/bin/ide" << false;
-        QTest::newRow("program at the root") << "/" << "/quizzarr" << true;
+        // The game's executable, under the name the host gave it.
+        QTest::newRow("the game itself") << true << "/opt/quiz/" << "/opt/quiz/quizzarr" << true;
+        QTest::newRow("renamed game") << true << "/opt/quiz/" << "/opt/quiz/Classroom Quiz" << true;
+        QTest::newRow("renamed, with an extension") << true << "/opt/quiz/" << "/opt/quiz/quiz.bin" << true;
+        QTest::newRow("dot in a folder name is kept") << true << "/opt/my.games/" << "/opt/my.games/quiz" << true;
+        QTest::newRow("game at the root") << true << "/" << "/quiz" << true;
+        QTest::newRow("module outside the program folder") << true << "/opt/quiz/" << "/usr/bin/driver" << false;
+        // Any other program: only a module named like the game counts, which
+        // is how tests force the game's mode.
+        QTest::newRow("forced by a test") << false << "/opt/quiz/" << "/opt/quiz/quizzarr" << true;
+        QTest::newRow("letter case ignored") << false << "/opt/quiz/" << "/OPT/Quiz/Quizzarr" << true;
+        QTest::newRow("extension cut") << false << "/opt/quiz/" << "/opt/quiz/quizzarr.bin" << true;
+        QTest::newRow("test program beside the game") << false << "/opt/quiz/" << "/opt/quiz/test_shell" << false;
+        QTest::newRow("dot in a folder, other program") << false << "/opt/my.games/" << "/opt/my.games/ide" << false;
+        QTest::newRow("another program") << false << "/opt/quiz/" << "/usr/bin/ide" << false;
     }
-    void runModeComparesExecutableWithGameName()
+    void runModeComparesExecutableWithItsOwnName()
     {
+        QFETCH(bool, declared);
         QFETCH(QString, folder);
         QFETCH(QString, module);
         QFETCH(bool, compiled);
+        ModuleFileName::declareGameExecutable(declared);
         ModuleFileName::overrideProgramFolder(folder);
         ModuleFileName::overridePath(module);
         basDetectDevEnv::ForgetRunMode();
@@ -213,6 +256,21 @@ private slots:
     {
         basDetectDevEnv::ForgetRunMode();
         QVERIFY(basDetectDevEnv::IsInDevEnv());
+        // Declared the game, this very program is one, under its own name.
+        ModuleFileName::declareGameExecutable();
+        basDetectDevEnv::ForgetRunMode();
+        QVERIFY(basDetectDevEnv::IsRunningCompiled());
+    }
+
+    void drivingProgramStatesAModuleOutsideTheProgramFolder()
+    {
+        ModuleFileName::declareGameExecutable();
+        qputenv("QUIZZARR_MODULE_PATH", "/usr/bin/screenshots");
+        basDetectDevEnv::ForgetRunMode();
+        const bool compiled = basDetectDevEnv::IsRunningCompiled();
+        qunsetenv("QUIZZARR_MODULE_PATH");
+        QVERIFY(!compiled);
+        QCOMPARE(ModuleFileName::path(), QFileInfo(QStringLiteral("/proc/self/exe")).canonicalFilePath());
     }
 
     void newClipCutsOffTheLast()

@@ -1,4 +1,5 @@
 #include "game/GameState.h"
+#include "platform/ModuleFileName.h"
 #include "platform/MsgBox.h"
 #include "platform/TerminationSignals.h"
 #include "shell/Libraries.h"
@@ -16,6 +17,10 @@ int main(int argc, char **argv)
     // and message boxes come and go in between: the program ends when the
     // home screen closes, not when no window happens to be open.
     QApplication::setQuitOnLastWindowClosed(false);
+    // Only this executable is the game: it answers to whatever name the host
+    // gave its file, while the test programs, which link the same code,
+    // stay outside the classroom unless a test says otherwise.
+    ModuleFileName::declareGameExecutable();
     QtMsgBox boxes;
     installMsgBoxHandler(&boxes);
     QtFileDialog dialogs;

@@ -4,29 +4,21 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QStringDecoder>
 
 #include <cstring>
 
 namespace {
 
-// Lines longer than this keep only their start (plus their last non-blank
-// byte, for the quotation-mark rule): no value can use more.
-constexpr qsizetype kMaxLineBytes = 64 * 1024;
 constexpr qsizetype kChunkBytes = 64 * 1024;
+// The most of a name or a value that a line keeps: no value can use more
+// (1999 characters take at most four bytes each), and a name longer than
+// the one asked for cannot match it. Whatever lies beyond only streams past.
+constexpr qsizetype kKeptBytes = 64 * 1024;
 
 bool isBlank(char c)
 {
     return c == ' ' || c == '\t' || c == '\r' || c == '\v' || c == '\f';
-}
-
-QByteArrayView trimmed(QByteArrayView v)
-{
-    qsizetype b = 0, e = v.size();
-    while (b < e && isBlank(v[b]))
-        ++b;
-    while (e > b && isBlank(v[e - 1]))
-        --e;
-    return v.sliced(b, e - b);
 }
 
 bool isAscii(QByteArrayView v)
@@ -38,6 +30,14 @@ bool isAscii(QByteArrayView v)
     return true;
 }
 
+// A byte-order mark inside a name or a value is a character of it: only the
+// one at the very start of the file tells the file's encoding.
+QString decodeUtf8(QByteArrayView bytes)
+{
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
+    return decoder.decode(bytes);
+}
+
 // Names are compared as text; a name with other than ASCII letters is read
 // as UTF-8 when it is valid UTF-8, else in the 8-bit code page.
 bool sameName(QByteArrayView bytes, const QString &name)
@@ -47,66 +47,190 @@ bool sameName(QByteArrayView bytes, const QString &name)
     Utf8::Validator v;
     v.feed(bytes);
     v.finish();
-    const QString decoded = v.valid() ? QString::fromUtf8(bytes) : Windows1252::decode(bytes);
+    const QString decoded = v.valid() ? decodeUtf8(bytes) : Windows1252::decode(bytes);
     return decoded.compare(name, Qt::CaseInsensitive) == 0;
 }
 
-struct Line {
-    QByteArrayView bytes;  // at most kMaxLineBytes, without the line feed
-    char lastNonBlank = 0; // of the whole line, also past the cut
-    bool cut = false;
+// One part of a line (a name or a value) as it streams past, without the
+// blanks around it, and no more of it than a limit. Blanks are kept back
+// until a later byte shows that they lie inside the part.
+class Field {
+public:
+    void reset(qsizetype limit)
+    {
+        bytes_.resize(0);
+        blanks_.resize(0);
+        started_ = cut_ = false;
+        last_ = 0;
+        limit_ = limit;
+    }
+
+    void feed(QByteArrayView part)
+    {
+        if (!started_) {
+            while (!part.isEmpty() && isBlank(part.front()))
+                part = part.sliced(1);
+            if (part.isEmpty())
+                return;
+            started_ = true;
+        }
+        qsizetype end = part.size();
+        while (end > 0 && isBlank(part[end - 1]))
+            --end;
+        if (end > 0) {
+            last_ = part[end - 1];
+            keep(blanks_);
+            blanks_.resize(0);
+            keep(part.first(end));
+        }
+        holdBlanks(part.sliced(end));
+    }
+
+    QByteArrayView bytes() const { return bytes_; }
+    // Longer than the limit: bytes() holds its start only.
+    bool cut() const { return cut_; }
+    // The last byte that is not a blank, also past the limit.
+    char last() const { return last_; }
+
+private:
+    void keep(QByteArrayView v)
+    {
+        if (cut_)
+            return;
+        const qsizetype room = limit_ - bytes_.size();
+        if (v.size() > room) {
+            cut_ = true;
+            v = v.first(room);
+        }
+        bytes_.append(v);
+    }
+
+    void holdBlanks(QByteArrayView v)
+    {
+        // Blanks past the room left need not be kept: a byte after them
+        // would not fit either, and tells so when it comes.
+        const qsizetype room = limit_ - bytes_.size() - blanks_.size();
+        if (!cut_ && room > 0)
+            blanks_.append(v.first(qMin(room, v.size())));
+    }
+
+    QByteArray bytes_;
+    QByteArray blanks_;
+    bool started_ = false;
+    bool cut_ = false;
+    char last_ = 0;
+    qsizetype limit_ = kKeptBytes;
 };
 
-// Reads a file line by line in chunks. A line inside one chunk is handed
-// out as a view of it; only a line across chunks is copied.
+// What a line is, found while it streams past in parts: a section line
+// ("[" name "]", the first "]" closing it), or a key line (key "=" value).
+// Only what the read needs is gathered: section names always; keys only
+// inside the wanted section; the value only of the wanted key.
+class LineScan {
+public:
+    LineScan(const QString &section, const QString &key) : section_(section), key_(key)
+    {
+        nameLimit_ = qMax(kKeptBytes, 4 * qMax(section.size(), key.size()));
+    }
+
+    // A new line begins; each field is emptied only once the line needs it.
+    void start(bool inSection)
+    {
+        inSection_ = inSection;
+        begun_ = bracket_ = closed_ = equals_ = keyMatches_ = false;
+    }
+
+    void feed(QByteArrayView part)
+    {
+        if (!begun_) {
+            while (!part.isEmpty() && isBlank(part.front()))
+                part = part.sliced(1);
+            if (part.isEmpty())
+                return;
+            begun_ = true;
+            bracket_ = part.front() == '[';
+            if (inSection_)
+                keyName_.reset(nameLimit_);
+            if (bracket_) {
+                name_.reset(nameLimit_);
+                feedName(part.sliced(1));
+            }
+        } else if (bracket_) {
+            feedName(part);
+        }
+        if (!inSection_ || (equals_ && !keyMatches_))
+            return;
+        if (!equals_) {
+            const qsizetype equals = part.indexOf('=');
+            keyName_.feed(equals < 0 ? part : part.first(equals));
+            if (equals < 0)
+                return;
+            equals_ = true;
+            keyMatches_ = !keyName_.cut() && sameName(keyName_.bytes(), key_);
+            value_.reset(kKeptBytes);
+            part = part.sliced(equals + 1);
+        }
+        if (keyMatches_)
+            value_.feed(part);
+    }
+
+    bool isSectionLine() const { return bracket_ && closed_; }
+    bool sectionMatches() const { return !name_.cut() && sameName(name_.bytes(), section_); }
+    bool isWantedKey() const { return inSection_ && keyMatches_ && !isSectionLine(); }
+    const Field &value() const { return value_; }
+
+private:
+    void feedName(QByteArrayView part)
+    {
+        if (closed_)
+            return;
+        const qsizetype close = part.indexOf(']');
+        name_.feed(close < 0 ? part : part.first(close));
+        closed_ = close >= 0;
+    }
+
+    const QString &section_;
+    const QString &key_;
+    qsizetype nameLimit_ = kKeptBytes;
+    bool inSection_ = false;
+    bool begun_ = false, bracket_ = false, closed_ = false, equals_ = false, keyMatches_ = false;
+    Field name_, keyName_, value_;
+};
+
+// Hands a file out in parts of lines, each a view of the chunk just read:
+// nothing is copied and no line is ever held whole.
 class LineReader {
 public:
     explicit LineReader(const QString &fileName) : file_(fileName) {}
 
     bool open() { return file_.open(QIODevice::ReadOnly); }
 
-    // The line stays valid until the next call.
-    bool next(Line &line)
+    // The next part of the current line; lineEnds when the line ends with
+    // it. The part stays valid until the next call.
+    bool next(QByteArrayView &part, bool &lineEnds)
     {
-        spill_.clear();
-        line = Line{};
-        bool any = false;
-        for (;;) {
-            if (pos_ >= chunk_.size() && !refill()) {
-                line.bytes = spill_;
-                return any;
-            }
-            any = true;
-            const char *start = chunk_.constData() + pos_;
-            const qsizetype left = chunk_.size() - pos_;
-            const void *nl = std::memchr(start, '\n', size_t(left));
-            const qsizetype n = nl ? static_cast<const char *>(nl) - start : left;
-            pos_ += n + (nl ? 1 : 0);
-            if (nl && spill_.isEmpty() && !line.cut) {
-                line.bytes = QByteArrayView(start, n);
-                line.lastNonBlank = lastNonBlankOf(line.bytes, 0);
-                return true;
-            }
-            append(line, QByteArrayView(start, n));
-            if (nl) {
-                line.bytes = spill_;
-                return true;
-            }
+        if (pos_ >= chunk_.size() && !refill()) {
+            if (!lineOpen_)
+                return false;
+            lineOpen_ = false; // the last line, without a line end
+            part = {};
+            lineEnds = true;
+            return true;
         }
+        const char *start = chunk_.constData() + pos_;
+        const qsizetype left = chunk_.size() - pos_;
+        const void *nl = std::memchr(start, '\n', size_t(left));
+        const qsizetype n = nl ? static_cast<const char *>(nl) - start : left;
+        pos_ += n + (nl ? 1 : 0);
+        part = QByteArrayView(start, n);
+        lineEnds = nl != nullptr;
+        lineOpen_ = !lineEnds;
+        return true;
     }
 
     bool startsWithByteOrderMark() const { return bom_; }
 
 private:
-    static char lastNonBlankOf(QByteArrayView part, char otherwise)
-    {
-        for (qsizetype i = part.size(); i > 0; --i) {
-            if (!isBlank(part[i - 1]))
-                return part[i - 1];
-        }
-        return otherwise;
-    }
-
     bool refill()
     {
         chunk_ = file_.read(kChunkBytes);
@@ -122,23 +246,12 @@ private:
         return true;
     }
 
-    void append(Line &line, QByteArrayView part)
-    {
-        line.lastNonBlank = lastNonBlankOf(part, line.lastNonBlank);
-        const qsizetype room = kMaxLineBytes - spill_.size();
-        if (part.size() > room) {
-            line.cut = true;
-            part = part.first(room);
-        }
-        spill_.append(part);
-    }
-
     QFile file_;
     QByteArray chunk_;
-    QByteArray spill_;
     qsizetype pos_ = 0;
     bool first_ = true;
     bool bom_ = false;
+    bool lineOpen_ = false;
 };
 
 // Whether the whole file reads as UTF-8: it starts with the byte-order
@@ -159,24 +272,6 @@ bool fileIsUtf8(const QString &fileName, bool startsWithMark)
     return v.valid() && v.sawMultiByte();
 }
 
-// "[name]" -> name; anything else is not a section line.
-bool sectionName(QByteArrayView line, QByteArrayView &name)
-{
-    const QByteArrayView t = trimmed(line);
-    if (!t.startsWith('['))
-        return false;
-    const qsizetype close = t.indexOf(']');
-    if (close < 0)
-        return false;
-    name = trimmed(t.sliced(1, close - 1));
-    return true;
-}
-
-QString decodeValue(QByteArrayView bytes, bool utf8)
-{
-    return utf8 ? QString::fromUtf8(bytes) : Windows1252::decode(bytes);
-}
-
 QString cutToLimit(QString value)
 {
     if (value.size() <= kProfileValueMax)
@@ -188,18 +283,18 @@ QString cutToLimit(QString value)
     return value;
 }
 
-QString valueOf(const Line &line, qsizetype equals, const LineReader &reader, const QString &fileName)
+QString valueOf(const Field &field, const LineReader &reader, const QString &fileName)
 {
-    QByteArrayView value = trimmed(line.bytes.sliced(equals + 1));
-    // One pair of enclosing quotation marks goes.
-    if (!value.isEmpty() && (value.front() == '"' || value.front() == '\'')) {
-        const char last = line.cut ? line.lastNonBlank : value.back();
-        if (last == value.front() && (line.cut || value.size() >= 2))
-            value = line.cut ? value.sliced(1) : value.sliced(1, value.size() - 2);
-    }
+    QByteArrayView value = field.bytes();
+    // One pair of enclosing quotation marks goes; past the limit, the
+    // closing one lies beyond what was kept.
+    if (!value.isEmpty() && (value.front() == '"' || value.front() == '\'') && field.last() == value.front() &&
+        (field.cut() || value.size() >= 2))
+        value = field.cut() ? value.sliced(1) : value.sliced(1, value.size() - 2);
     if (isAscii(value))
-        return cutToLimit(decodeValue(value, false));
-    return cutToLimit(decodeValue(value, fileIsUtf8(fileName, reader.startsWithByteOrderMark())));
+        return cutToLimit(Windows1252::decode(value));
+    const bool utf8 = fileIsUtf8(fileName, reader.startsWithByteOrderMark());
+    return cutToLimit(utf8 ? decodeUtf8(value) : Windows1252::decode(value));
 }
 
 } // namespace
@@ -214,21 +309,23 @@ QString GetPrivateProfileString(const QString &section, const QString &key, cons
     LineReader reader(fileName);
     if (!reader.open())
         return fallback;
-    Line line;
+    LineScan line(section, key);
     bool inSection = false;
-    while (reader.next(line)) {
-        QByteArrayView name;
-        if (sectionName(line.bytes, name)) {
+    line.start(inSection);
+    QByteArrayView part;
+    bool lineEnds = false;
+    while (reader.next(part, lineEnds)) {
+        line.feed(part);
+        if (!lineEnds)
+            continue;
+        if (line.isSectionLine()) {
             if (inSection)
                 return fallback; // the section ended without the key
-            inSection = sameName(name, section);
-            continue;
+            inSection = line.sectionMatches();
+        } else if (line.isWantedKey()) {
+            return valueOf(line.value(), reader, fileName);
         }
-        if (!inSection)
-            continue;
-        const qsizetype equals = line.bytes.indexOf('=');
-        if (equals >= 0 && sameName(trimmed(line.bytes.first(equals)), key))
-            return valueOf(line, equals, reader, fileName);
+        line.start(inSection);
     }
     return fallback;
 }

@@ -4,8 +4,9 @@
 // at most 1999 characters, and the default when the file, the section or
 // the key is missing.
 //
-// The file streams past: a huge file or a binary one gives its answer
-// without being held in memory, and no input can crash or hang the read.
+// The file streams past, and so does each line: a huge file, a binary one
+// or a line of any length gives its answer without being held in memory,
+// and no input can crash or hang the read.
 #pragma once
 
 #include <QString>

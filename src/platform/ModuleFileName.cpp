@@ -8,6 +8,7 @@ namespace {
 
 QString pathOverride;
 QString folderOverride;
+bool declaredGame = false;
 
 QString executablePath()
 {
@@ -24,7 +25,10 @@ namespace ModuleFileName {
 
 QString path()
 {
-    return pathOverride.isEmpty() ? executablePath() : pathOverride;
+    if (!pathOverride.isEmpty())
+        return pathOverride;
+    const QString stated = qEnvironmentVariable("QUIZZARR_MODULE_PATH");
+    return stated.isEmpty() ? executablePath() : stated;
 }
 
 QString programFolder()
@@ -37,6 +41,16 @@ QString programFolder()
 QString gameExecutableName()
 {
     return QStringLiteral(QUIZZARR_EXECUTABLE_NAME);
+}
+
+QString executableName()
+{
+    return declaredGame ? QFileInfo(path()).fileName() : gameExecutableName();
+}
+
+void declareGameExecutable(bool isGame)
+{
+    declaredGame = isGame;
 }
 
 QString withoutExtension(const QString &path)

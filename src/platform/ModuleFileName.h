@@ -7,6 +7,10 @@
 namespace ModuleFileName {
 
 // Full path of the running executable, as the operating system reports it.
+// The environment variable QUIZZARR_MODULE_PATH, when set, stands in for
+// that answer: a program that drives the game (scripts/screenshots) names
+// a module outside the program folder, and the game then behaves as when
+// hosted by another program. The game itself never needs it.
 QString path();
 
 // The folder of the executable, ending in "/".
@@ -14,6 +18,15 @@ QString programFolder();
 
 // The file name the game's own executable is built under, without folder.
 QString gameExecutableName();
+
+// The running executable's own file name, without folder: once the game's
+// executable has declared itself, the name of the module's file, whatever
+// the host renamed it to; in any other program (a test program) the name
+// the game is built under, which that program's module does not carry.
+QString executableName();
+
+// Called by the game's own executable at start (tests may undo it).
+void declareGameExecutable(bool isGame = true);
 
 // The path without the extension of its file name; a dot in a folder's
 // name is not an extension.

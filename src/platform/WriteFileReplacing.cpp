@@ -54,9 +54,13 @@ FileError replaceFile(const QString &path, const std::function<int(int fd)> &fil
     const bool exists = ::stat(native.constData(), &old) == 0;
     if (exists && S_ISDIR(old.st_mode))
         return systemError(EISDIR);
-    // A read-only file or folder stays as it is, for every user: the
-    // administrator, whom the system would let through, included.
-    if (exists && (::access(native.constData(), W_OK) != 0 || (old.st_mode & 0222) == 0))
+    // A file the system will not let us change says why (a read-only file
+    // system, an unchangeable file) in its own words. A read-only file or
+    // folder stays as it is for every user: the administrator, whom the
+    // system would let through, included.
+    if (exists && ::access(native.constData(), W_OK) != 0)
+        return systemError(errno);
+    if (exists && (old.st_mode & 0222) == 0)
         return systemError(EACCES);
     const QByteArray folder = QFile::encodeName(QFileInfo(target).absolutePath());
     struct stat dir {};

@@ -3,6 +3,8 @@
 #include "ModuleFileName.h"
 #include "SpecialFolders.h"
 
+#include <QDir>
+
 QString clsShellFolders::GetSpecialFolderLocation(uintptr_t, int32_t CSIDL) const
 {
     const QString path = TrimNull(SpecialFolders::path(CSIDL));
@@ -11,6 +13,12 @@ QString clsShellFolders::GetSpecialFolderLocation(uintptr_t, int32_t CSIDL) cons
     if (path.isEmpty())
         return QString();
     return ModuleFileName::withTrailingSeparator(path);
+}
+
+QString clsShellFolders::GetExistingSpecialFolder(uintptr_t hwnd, int32_t CSIDL) const
+{
+    const QString path = GetSpecialFolderLocation(hwnd, CSIDL);
+    return path.isEmpty() || QDir().mkpath(path) ? path : QString();
 }
 
 QString clsShellFolders::TrimNull(const QString &text)

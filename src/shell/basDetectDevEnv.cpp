@@ -7,8 +7,11 @@
 namespace {
 
 // The answer, once it could be settled: the running module's path and the
-// path the game's own executable would have, both lower-cased and without
-// extension.
+// program folder followed by the running executable's own name, both
+// lower-cased and without extension. The game's executable knows its own
+// name whatever a host renamed it to; a test program hosting the game's
+// code does not, just as a development environment's module is not the
+// program it runs.
 struct RunModeRecord {
     bool settled = false;
     QString modulePath;
@@ -31,7 +34,8 @@ bool IsRunningCompiled()
     if (module.size() < 1 || module.size() >= 1023)
         return false;
     record.modulePath = ModuleFileName::withoutExtension(module.toLower());
-    record.expectedPath = (ModuleFileName::programFolder() + ModuleFileName::gameExecutableName()).toLower();
+    record.expectedPath =
+        ModuleFileName::withoutExtension((ModuleFileName::programFolder() + ModuleFileName::executableName()).toLower());
     record.settled = true;
     return record.modulePath == record.expectedPath;
 }

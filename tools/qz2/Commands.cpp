@@ -49,10 +49,13 @@ QString categoryJson(const CategoryEntry &c)
                          {QStringLiteral("questions"), Json::array(questions)}});
 }
 
+// As the game reads: a file that cannot be read gives the default, which
+// is an answer like any other; the warning only says why.
 int get(const QStringList &a, QTextStream &out, QTextStream &err)
 {
-    if (!readable(a[0], err))
-        return 1;
+    const QString why = unreadable(a[0]);
+    if (!why.isEmpty())
+        err << "qz2: warning: cannot read " << a[0] << ": " << why << "; the read gives the default\n";
     out << GetPrivateProfileString(a[1], a[2], a[3], a[0]) << "\n";
     return 0;
 }

@@ -34,6 +34,13 @@ QFileDialog::FileMode fileMode(const FileDialogRequest &r)
 bool acceptable(const FileDialogRequest &r, const QString &path, QWidget *dialog)
 {
     const QFileInfo file(path);
+    // Qt lets a name in a missing folder through; the flag means the
+    // dialog refuses it, before the caller tries to write there.
+    if ((r.flags & Flags::OFN_PATHMUSTEXIST) && !QFileInfo(file.absolutePath()).isDir()) {
+        QMessageBox::warning(dialog, dialog->windowTitle(),
+                             path + QStringLiteral("\nThe folder does not exist.\nCheck the path and try again."));
+        return false;
+    }
     if (r.save && (r.flags & Flags::OFN_NOREADONLYRETURN) && file.exists() && !file.isWritable()) {
         QMessageBox::warning(dialog, dialog->windowTitle(),
                              path + QStringLiteral("\nThis file is set to read-only.\nTry again with a different file name."));

@@ -127,7 +127,7 @@ void frmEditor::mnuNew_Click()
 
 QString frmEditor::questionFolder() const
 {
-    const QString documents = clsShellFolders().GetSpecialFolderLocation(uintptr_t(winId()), SpecialFolders::kDocuments);
+    const QString documents = clsShellFolders().GetExistingSpecialFolder(uintptr_t(winId()), SpecialFolders::kDocuments);
     return ModuleFileName::withTrailingSeparator(documents.isEmpty() ? ModuleFileName::programFolder() : documents);
 }
 

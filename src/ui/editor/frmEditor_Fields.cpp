@@ -139,8 +139,16 @@ void frmEditor::connectFields()
         edited(txtQuestion[size_t(j)], [this, j](const QString &t) { shownCategory().Question[size_t(j)] = t; });
     }
     connect(txtSecs, &QLineEdit::textChanged, this, &frmEditor::txtSecs_Change);
+    // The lists act on every change made by code, and on every choice the
+    // host makes, also of the count already chosen (activated); a choice
+    // that changes the count raises both, and the handlers do the same
+    // thing twice. Keys and the wheel are seen in eventFilter.
     connect(cmbRounds, &QComboBox::currentIndexChanged, this, &frmEditor::cmbRounds_Click);
     connect(cmbCategories, &QComboBox::currentIndexChanged, this, &frmEditor::cmbCategories_Click);
+    connect(cmbRounds, &QComboBox::activated, this, &frmEditor::cmbRounds_Click);
+    connect(cmbCategories, &QComboBox::activated, this, &frmEditor::cmbCategories_Click);
+    cmbRounds->installEventFilter(this);
+    cmbCategories->installEventFilter(this);
 }
 
 void frmEditor::setFieldShown(QLineEdit *field, bool shown)
@@ -260,6 +268,25 @@ void frmEditor::txtSecs_LostFocus()
 
 bool frmEditor::eventFilter(QObject *watched, QEvent *event)
 {
+    // A key press or a turn of the wheel on a list acts once, whether or not
+    // it changes the count: the list does its part quietly, then the
+    // handler runs.
+    if ((watched == cmbRounds || watched == cmbCategories) &&
+        (event->type() == QEvent::Wheel ||
+         (event->type() == QEvent::KeyPress && !static_cast<QKeyEvent *>(event)->text().isEmpty() &&
+          static_cast<QKeyEvent *>(event)->key() != Qt::Key_Tab &&
+          static_cast<QKeyEvent *>(event)->key() != Qt::Key_Backtab))) {
+        auto *list = static_cast<QComboBox *>(watched);
+        {
+            const QSignalBlocker quiet(list);
+            static_cast<QObject *>(list)->event(event);
+        }
+        if (list == cmbRounds)
+            cmbRounds_Click();
+        else
+            cmbCategories_Click();
+        return true;
+    }
     // The focus that goes to a menu, a dialog or a message box comes back:
     // the field has not been left, so a Save As writes what it holds.
     if (watched == txtSecs && event->type() == QEvent::FocusOut) {
@@ -272,9 +299,11 @@ bool frmEditor::eventFilter(QObject *watched, QEvent *event)
         const auto *key = static_cast<QKeyEvent *>(event);
         if (key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab)
             return false;
-        // Only digits, Backspace and Enter; every other character is dropped.
+        // Only digits, Backspace and Enter; every other typed character is
+        // dropped. Keys that type nothing pass, Delete included, to which
+        // X11 gives the text DEL (0x7F).
         const QString text = key->text();
-        if (!text.isEmpty()) {
+        if (!text.isEmpty() && text.front() != QChar(0x7F)) {
             const QChar c = text.front();
             const bool allowed = (c >= QLatin1Char('0') && c <= QLatin1Char('9')) || c == QLatin1Char('\b') ||
                                  c == QLatin1Char('\r');

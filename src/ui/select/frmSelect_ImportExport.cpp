@@ -13,7 +13,6 @@
 #include "questions/clsOpenSaveDlg.h"
 
 #include <QCursor>
-#include <QDir>
 #include <QListWidget>
 #include <QMenu>
 
@@ -62,7 +61,7 @@ void frmSelect::ExportQuestionSet(const QString &InitialFolder)
     const QString source = GetEntryPath(entry);
     clsOpenSaveDlg dialog;
     const QString folder = InitialFolder.isEmpty()
-                               ? clsShellFolders().GetSpecialFolderLocation(uintptr_t(winId()), SpecialFolders::kDesktop)
+                               ? clsShellFolders().GetExistingSpecialFolder(uintptr_t(winId()), SpecialFolders::kDesktop)
                                : InitialFolder;
     prepare(dialog, uintptr_t(winId()), QStringLiteral("Export Question File To"), folder);
     dialog.setFileName(EntryFileName(entry->text()));
@@ -76,18 +75,16 @@ void frmSelect::ExportQuestionSet(const QString &InitialFolder)
 void frmSelect::ImportQuestionSet(const QString &InitialFolder)
 {
     const QString documents =
-        clsShellFolders().GetSpecialFolderLocation(uintptr_t(winId()), SpecialFolders::kDocuments);
+        clsShellFolders().GetExistingSpecialFolder(uintptr_t(winId()), SpecialFolders::kDocuments);
     if (documents.isEmpty())
         return;
     clsOpenSaveDlg dialog;
     const QString folder = InitialFolder.isEmpty()
-                               ? clsShellFolders().GetSpecialFolderLocation(uintptr_t(winId()), SpecialFolders::kDesktop)
+                               ? clsShellFolders().GetExistingSpecialFolder(uintptr_t(winId()), SpecialFolders::kDesktop)
                                : InitialFolder;
     prepare(dialog, uintptr_t(winId()), QStringLiteral("Select Question File To Import"), folder);
     if (!dialog.ShowOpen())
         return;
-    // A fresh account may have no documents folder yet: the import makes it.
-    QDir().mkpath(documents);
     const FileError error = CopyFileReplacing(dialog.FileName(), documents + dialog.FileNameExtOnly());
     if (error)
         MsgBox(QStringLiteral("Import File Failure\r\n") + error.description, MsgBoxStyle::OKOnly, applicationTitle());
