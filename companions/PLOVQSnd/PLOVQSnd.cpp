@@ -46,24 +46,27 @@ struct Device {
     bool ready = false; // initialised and not shut down: clips may load
     Mixer mixer;
     std::mutex mutex;
-};
 
-void closeDevice(Device &d)
-{
-    if (d.id != 0) {
-        SDL_CloseAudioDevice(d.id); // waits for the audio thread to finish
-        d.id = 0;
-        SDL_QuitSubSystem(SDL_INIT_AUDIO);
+    void close()
+    {
+        if (id != 0) {
+            SDL_CloseAudioDevice(id); // waits for the audio thread to finish
+            id = 0;
+            SDL_QuitSubSystem(SDL_INIT_AUDIO);
+        }
+        std::lock_guard lock(mutex);
+        mixer.clear();
     }
-    std::lock_guard lock(d.mutex);
-    d.mixer.clear();
-}
+
+    // The library is being unloaded, or the program ends: no audio thread
+    // may outlive the code it runs, nor the mixer it reads.
+    ~Device() { close(); }
+};
 
 Device &device()
 {
-    // Never destroyed: the unload hook below still needs it then.
-    static Device *d = new Device;
-    return *d;
+    static Device d;
+    return d;
 }
 
 void audioCallback(void *, Uint8 *stream, int length)
@@ -169,7 +172,7 @@ void PLOV_Shutdown(void)
         playing = d.mixer.anyPlaying();
     }
     if (!playing)
-        closeDevice(d);
+        d.close();
 }
 
 int32_t PLOV_GetSoundLength(int32_t hSound)
@@ -188,8 +191,3 @@ void PLOV_SeekSound(int32_t hSound, int32_t milliseconds)
 
 } // extern "C"
 
-// The library is being unloaded: no audio thread may outlive its code.
-__attribute__((destructor)) static void closeOnUnload()
-{
-    closeDevice(device());
-}

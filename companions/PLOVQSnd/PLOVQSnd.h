@@ -35,7 +35,11 @@ PLOVQSND_API int32_t PLOV_GetSoundStatus(int32_t hSound);
 // Stops and releases a clip; sets *hSound to 0.
 PLOVQSND_API void PLOV_UnloadSound(int32_t *hSound);
 
-// Stops everything, releases every clip and closes the audio output.
+// Ends the session: no clip loads until the next PLOV_InitSound, and every
+// clip that is not playing is released. A clip that still plays goes on to
+// its end (the game's closing theme starts just before its board closes);
+// the audio output closes when nothing plays any more, at the next
+// shutdown, or when the library is unloaded.
 PLOVQSND_API void PLOV_Shutdown(void);
 
 // Diagnostics, for tests and tools: a clip's length in milliseconds
