@@ -3,6 +3,7 @@
 // file, and reading that survives any input.
 
 #include "ScriptedFileDialog.h"
+#include "TestSets.h"
 
 #include "platform/GetPrivateProfileString.h"
 #include "platform/Windows1252.h"
@@ -31,25 +32,6 @@
 #include <unistd.h>
 
 namespace {
-
-// A set with every text distinct, so that a swapped or shifted text shows.
-QuestionSet distinctSet()
-{
-    QuestionSet s;
-    s.Description = QStringLiteral("Sample set for the first class");
-    s.Timer = 25;
-    for (int r = 0; r < 3; ++r) {
-        for (int c = 0; c < 6; ++c) {
-            CategoryEntry &e = s.Categories[size_t(r)][size_t(c)];
-            e.Title = QStringLiteral("R%1C%2 title").arg(r).arg(c);
-            for (int j = 0; j < 5; ++j) {
-                e.Answer[size_t(j)] = QStringLiteral("clue %1.%2.%3 = yes").arg(r).arg(c).arg(j);
-                e.Question[size_t(j)] = QStringLiteral("What is %1.%2.%3?").arg(r).arg(c).arg(j);
-            }
-        }
-    }
-    return s;
-}
 
 #if defined(__SANITIZE_ADDRESS__)
 extern "C" int __sanitizer_install_malloc_and_free_hooks(void (*)(const volatile void *, size_t),

@@ -2,6 +2,7 @@
 // editor's loader with its defaults, the writer's exact bytes, legacy
 // files, encodings, and the qz2 tool.
 
+#include "TestSets.h"
 #include "platform/GetPrivateProfileString.h"
 #include "platform/Windows1252.h"
 #include "questions/GameReads.h"
@@ -18,47 +19,6 @@ namespace {
 QByteArray crlf(const QStringList &lines)
 {
     return lines.join(QStringLiteral("\r\n")).toLatin1() + "\r\n";
-}
-
-// A set with every text distinct, so that a swapped or shifted text shows.
-QuestionSet distinctSet()
-{
-    QuestionSet s;
-    s.Description = QStringLiteral("Sample set for the first class");
-    s.Timer = 25;
-    for (int r = 0; r < 3; ++r) {
-        for (int c = 0; c < 6; ++c) {
-            CategoryEntry &e = s.Categories[size_t(r)][size_t(c)];
-            e.Title = QStringLiteral("R%1C%2 title").arg(r).arg(c);
-            for (int j = 0; j < 5; ++j) {
-                e.Answer[size_t(j)] = QStringLiteral("clue %1.%2.%3 = yes").arg(r).arg(c).arg(j);
-                e.Question[size_t(j)] = QStringLiteral("What is %1.%2.%3?").arg(r).arg(c).arg(j);
-            }
-        }
-    }
-    return s;
-}
-
-bool sameTexts(const QuestionSet &a, const QuestionSet &b, QString *where)
-{
-    for (int r = 0; r < 3; ++r) {
-        const int count = r == 2 ? 1 : a.CategoryCount[size_t(r)];
-        if (r == 1 && a.RoundCount == 1)
-            continue;
-        for (int c = 0; c < count; ++c) {
-            const CategoryEntry &x = a.Categories[size_t(r)][size_t(c)];
-            const CategoryEntry &y = b.Categories[size_t(r)][size_t(c)];
-            const int rows = r == 2 ? 1 : 5;
-            bool same = x.Title == y.Title;
-            for (int j = 0; j < rows; ++j)
-                same = same && x.Answer[size_t(j)] == y.Answer[size_t(j)] && x.Question[size_t(j)] == y.Question[size_t(j)];
-            if (!same) {
-                *where = QStringLiteral("round %1 category %2: '%3' vs '%4'").arg(r).arg(c).arg(x.Title, y.Title);
-                return false;
-            }
-        }
-    }
-    return a.Description == b.Description;
 }
 
 // A text as the reader gives it back: blanks and one pair of quotes at the

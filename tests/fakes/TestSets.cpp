@@ -37,3 +37,43 @@ QString writeFile(const QString &path, const QByteArray &bytes)
         qFatal("cannot write %s", qPrintable(path));
     return path;
 }
+
+QuestionSet distinctSet()
+{
+    QuestionSet s;
+    s.Description = QStringLiteral("Sample set for the first class");
+    s.Timer = 25;
+    for (int r = 0; r < 3; ++r) {
+        for (int c = 0; c < 6; ++c) {
+            CategoryEntry &e = s.Categories[size_t(r)][size_t(c)];
+            e.Title = QStringLiteral("R%1C%2 title").arg(r).arg(c);
+            for (int j = 0; j < 5; ++j) {
+                e.Answer[size_t(j)] = QStringLiteral("clue %1.%2.%3 = yes").arg(r).arg(c).arg(j);
+                e.Question[size_t(j)] = QStringLiteral("What is %1.%2.%3?").arg(r).arg(c).arg(j);
+            }
+        }
+    }
+    return s;
+}
+
+bool sameTexts(const QuestionSet &a, const QuestionSet &b, QString *where)
+{
+    for (int r = 0; r < 3; ++r) {
+        const int count = r == 2 ? 1 : a.CategoryCount[size_t(r)];
+        if (r == 1 && a.RoundCount == 1)
+            continue;
+        for (int c = 0; c < count; ++c) {
+            const CategoryEntry &x = a.Categories[size_t(r)][size_t(c)];
+            const CategoryEntry &y = b.Categories[size_t(r)][size_t(c)];
+            const int rows = r == 2 ? 1 : 5;
+            bool same = x.Title == y.Title;
+            for (int j = 0; j < rows; ++j)
+                same = same && x.Answer[size_t(j)] == y.Answer[size_t(j)] && x.Question[size_t(j)] == y.Question[size_t(j)];
+            if (!same) {
+                *where = QStringLiteral("round %1 category %2: '%3' vs '%4'").arg(r).arg(c).arg(x.Title, y.Title);
+                return false;
+            }
+        }
+    }
+    return a.Description == b.Description;
+}

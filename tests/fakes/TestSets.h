@@ -5,6 +5,8 @@
 #include <QList>
 #include <QString>
 
+#include "questions/QuestionSet.h"
+
 // A set whose rounds hold the given column titles ("" for an empty column,
 // nullptr for a missing key); clues are "r<round>c<col>a<row>" and
 // responses "r<round>c<col>q<row>". An empty list leaves the round out,
@@ -13,3 +15,10 @@ QByteArray setText(const QList<const char *> &round1, const QList<const char *> 
 
 // Writes bytes to path (replacing it); the path back.
 QString writeFile(const QString &path, const QByteArray &bytes);
+
+// A whole set (two rounds and the final) with every text distinct, so that a
+// swapped or shifted text shows.
+QuestionSet distinctSet();
+
+// Whether two sets hold the same description and texts; where not, where.
+bool sameTexts(const QuestionSet &a, const QuestionSet &b, QString *where);
