@@ -287,6 +287,22 @@ private slots:
         QVERIFY(sound.calls().contains(QStringLiteral("Shutdown")));
     }
 
+    void oneScreenOpensTheConsoleOnlyByHand()
+    {
+        program_->write(QStringLiteral("a.QZ2"), playable("A"));
+        openHome();
+        home_->cmdStart->click();
+        QVERIFY(board());
+        QVERIFY(!home_->console());
+        quitGame();
+        QKeyEvent f2(QEvent::KeyPress, Qt::Key_F2, Qt::NoModifier);
+        QCoreApplication::sendEvent(home_, &f2);
+        QVERIFY(home_->console() && home_->console()->isVisible());
+        QVERIFY(home_->isVisible()); // the home screen stays as it was
+        home_->cmdStart->click();
+        QCOMPARE(home_->console()->board(), board()); // a rehearsal follows the game
+    }
+
     void secondGameAfterTenTeamsKeepsOnlyItsLabels()
     {
         program_->write(QStringLiteral("a.QZ2"), playable("A"));

@@ -12,6 +12,8 @@
 #include <QString>
 
 #include <array>
+#include <utility>
+#include <vector>
 
 struct GameState;
 class Libraries;
@@ -31,6 +33,9 @@ struct BoardState {
     qint16 CurrentValue = 0;
     qint64 LastClickTime = 0;
     bool paradeRunning = false;
+    // Every change of a score since the game started, the last one last:
+    // the team (0..9) and the amount added.
+    std::vector<std::pair<int, qint32>> scoreHistory;
 };
 
 class BoardGame : public QObject {
@@ -64,6 +69,16 @@ public:
     void AnswerTimeout();
     // A key on the board; see DecideKey. Returns whether the key was used.
     bool KeyDown(QChar letter, int digit, int modifiers);
+    // BackSpace on the board: takes back the last score change.
+    bool KeyBackSpace();
+
+    // The host's corrections and typed amounts: adds amount (negative to
+    // take) to a team's score, and takes back the last change of any score,
+    // down to the start of the game. False when there was nothing to do.
+    bool addToScore(int team, qint32 amount);
+    bool undoScore();
+    // Names a team (0..9) for the rest of the run; empty gives "Team N" back.
+    void setTeamName(int team, const QString &name);
 
     void ShowAnswer(int index);
     void ShowQuestion(int index);
@@ -79,6 +94,9 @@ signals:
     void roundChanged();
     // A tile was counted out of play or put back.
     void tilesDoneChanged();
+    void teamNameChanged(int team);
+    // The final's think music started; it lasts this many milliseconds.
+    void thinkTimeStarted(int ms);
     // The game is over: after the standings, or by the host's end key.
     void gameEnded();
 

@@ -15,6 +15,8 @@ namespace {
 // The answer screen ignores presses this soon after the last one.
 constexpr qint64 kLockSeconds = 3;
 constexpr int kParadeHoldMs = 2500;
+// The length of the think music, clip 105.
+constexpr int kThinkMusicMs = 30000;
 
 } // namespace
 
@@ -151,6 +153,8 @@ void BoardGame::AnswerScreenPress()
         view_.RotateTV(settings_.PicIdScreen, settings_.PicIdScreen);
         ShowAnswer(-1);
         // The think music is the think time; presses meanwhile find "NO".
+        if (libraries_.soundsHeard())
+            emit thinkTimeStarted(kThinkMusicMs);
         libraries_.PlayGameSound(105, true);
         if (!view_.isUnloaded())
             setStepCode(MakeStepCode("SA", -1));

@@ -21,6 +21,7 @@ void BoardGame::setTeams(int teams)
 {
     state_.Teams = qint16(qBound(0, teams, 10));
     settings_.Scores.fill(0);
+    state_.scoreHistory.clear();
     emit teamsChanged();
 }
 

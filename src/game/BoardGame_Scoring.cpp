@@ -21,8 +21,7 @@ bool BoardGame::KeyDown(QChar letter, int digit, int modifiers)
         nextRound();
         return true;
     case KeyAction::Score:
-        settings_.Scores[size_t(action.team - 1)] += state_.CurrentValue;
-        emit scoreChanged(action.team - 1);
+        addToScore(action.team - 1, state_.CurrentValue);
         return true;
     case KeyAction::Swallow:
         return true;
@@ -30,4 +29,42 @@ bool BoardGame::KeyDown(QChar letter, int digit, int modifiers)
         break;
     }
     return false;
+}
+
+bool BoardGame::KeyBackSpace()
+{
+    // Like the scoring keys, it counts only while the board itself shows.
+    if (view_.screenVisible() || !started_)
+        return false;
+    undoScore();
+    return true;
+}
+
+bool BoardGame::addToScore(int team, qint32 amount)
+{
+    if (team < 0 || team >= state_.Teams || amount == 0 || view_.isUnloaded())
+        return false;
+    settings_.Scores[size_t(team)] += amount;
+    state_.scoreHistory.emplace_back(team, amount);
+    emit scoreChanged(team);
+    return true;
+}
+
+bool BoardGame::undoScore()
+{
+    if (state_.scoreHistory.empty() || view_.isUnloaded())
+        return false;
+    const auto [team, amount] = state_.scoreHistory.back();
+    state_.scoreHistory.pop_back();
+    settings_.Scores[size_t(team)] -= amount;
+    emit scoreChanged(team);
+    return true;
+}
+
+void BoardGame::setTeamName(int team, const QString &name)
+{
+    if (team < 0 || team >= int(settings_.TeamNames.size()) || settings_.TeamNames[size_t(team)] == name)
+        return;
+    settings_.TeamNames[size_t(team)] = name;
+    emit teamNameChanged(team);
 }

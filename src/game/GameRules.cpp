@@ -76,7 +76,12 @@ QString RankingKey(qint32 score)
     return key < 0 ? QLatin1Char('-') + digits : digits;
 }
 
-QString StandingsText(int teams, const std::array<qint32, 10> &scores)
+QString TeamName(int team, const QString &given)
+{
+    return given.isEmpty() ? QStringLiteral("Team ") + QString::number(team + 1) : given;
+}
+
+QString StandingsText(int teams, const std::array<qint32, 10> &scores, const std::array<QString, 10> &names)
 {
     teams = qBound(0, teams, int(scores.size()));
     // lstWinner: the ranking keys in ascending text order, each with its
@@ -89,7 +94,7 @@ QString StandingsText(int teams, const std::array<qint32, 10> &scores)
     QString text;
     for (int k = teams - 1; k >= 0; --k) {
         const int t = lstWinner[size_t(k)].second;
-        text += QStringLiteral("Team ") + QString::number(t + 1) + QStringLiteral(": $ ") +
+        text += TeamName(t, names[size_t(t)]) + QStringLiteral(": $ ") +
                 FormatScore(scores[size_t(t)]);
         if (k == teams - 1 && k >= 1) {
             const int below = lstWinner[size_t(k - 1)].second;

@@ -42,4 +42,9 @@ QString RankingKey(qint32 score);
 // The standings message: one line per team, best first, the top line
 // marked "  WINNER" or "  TIED" when there are two teams or more; lines
 // joined by CR LF, no break at the end.
-QString StandingsText(int teams, const std::array<qint32, 10> &scores);
+// Teams without a name given by the host keep "Team 1" to "Team 10".
+QString StandingsText(int teams, const std::array<qint32, 10> &scores, const std::array<QString, 10> &names = {});
+
+// A team's name: the one the host gave it, else "Team " and its number
+// (team 0 is "Team 1").
+QString TeamName(int team, const QString &given);

@@ -25,6 +25,8 @@ struct GameState {
     QString QuestionFile;
     // Score of team i + 1 in entry i.
     std::array<qint32, 10> Scores{};
+    // Names the host gave the teams, for the whole run; empty: "Team N".
+    std::array<QString, 10> TeamNames;
 
     // The picture set chosen at start-up for the screen's size class.
     qint32 PicIdScreen = 400;

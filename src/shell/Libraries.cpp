@@ -29,9 +29,14 @@ QString Libraries::SoundLibraryPath()
     return ModuleFileName::programFolder() + QStringLiteral("PLOVQSnd") + librarySuffix();
 }
 
+bool Libraries::soundsHeard() const
+{
+    return hSoundLib && basDetectDevEnv::IsRunningCompiled();
+}
+
 void Libraries::PlayGameSound(int32_t soundId, bool waitForEnd)
 {
-    if (!hSoundLib || basDetectDevEnv::IsInDevEnv())
+    if (!soundsHeard())
         return;
     if (hCurrentSound != 0) {
         hSoundLib->UnloadSound(&hCurrentSound);

@@ -33,6 +33,9 @@ public:
     // returns when the clip has ended, dispatching events meanwhile. Nothing
     // is heard without the library or outside the game's own executable.
     void PlayGameSound(int32_t soundId, bool waitForEnd);
+    // Whether PlayGameSound is heard at all: a library, and the game's own
+    // executable.
+    bool soundsHeard() const;
 
     // Stops the sound library taking new clips (a clip playing may finish)
     // and forgets the current clip.

@@ -23,9 +23,11 @@
 #include <QWidget>
 
 #include <array>
+#include <functional>
 
 class CaptionControl;
 class ShadowLabel;
+class QScreen;
 class QTimer;
 
 class frmMain : public QWidget, private BoardView {
@@ -41,8 +43,20 @@ public:
     // loaded with its teams and labels, all scores 0, the board laid out and
     // shown, the start sound, then round 1. Returns the board, or nullptr
     // when the host ended it during the start sound.
+    // With two screens or more the board goes full-screen on one other than
+    // hostScreen (the projector), which stays the host's. loaded, when
+    // given, meets the board as soon as it exists (a console to follow it).
     template <class Board = frmMain>
-    static Board *StartGame(GameState &state, Libraries &libraries, int teams);
+    static Board *StartGame(GameState &state, Libraries &libraries, int teams, QScreen *hostScreen = nullptr,
+                            const std::function<void(frmMain *)> &loaded = {});
+
+    // Runs an action of the host's on the game as the board's own presses
+    // and keys run (the board stays while the action lasts).
+    void run(const std::function<void(BoardGame &)> &action);
+    // Shows the board over the whole of another screen.
+    void moveToScreen(QScreen *screen);
+    // Whether the answer screen is up.
+    bool screenVisible() const override;
 
     // The rules of play, and the state of the round they keep.
     BoardGame &game() { return game_; }
@@ -121,13 +135,14 @@ private:
     static void warnBeforeStart(const Libraries &libraries);
     // StartGame's steps on the loaded board; false when it was ended during
     // the start sound.
-    bool start(int teams);
+    bool start(int teams, QScreen *hostScreen);
 
     // The game's announcements, shown on the controls.
     void showTile(int tile);
     void showHeader(int column);
     void showStepCode();
     void showScore(int team);
+    void showTeamName(int team);
 
     // BoardView: what the rules ask of the board.
     void hideGrid() override;
@@ -142,7 +157,6 @@ private:
     void setCategoryCaption(const QString &category) override;
     void showOverlay(int column) override;
     void hideScreen() override;
-    bool screenVisible() const override;
     void startAnswerTimer() override;
     void stopAnswerTimer() override;
 
@@ -157,7 +171,7 @@ private:
     void setTileFaces();
     void layOutTeamLabels(qreal referencePoints);
     void scaleBanner();
-    // Shows the board over the whole screen.
+    // Shows the board over the whole of its screen.
     void showOnWholeScreen();
     // Shows one step of an animation as its own frame.
     void showFrame(int pauseMs);
@@ -174,14 +188,18 @@ private:
     bool unloaded_ = false;
     int busy_ = 0;
     bool deletePending_ = false;
+    QPointer<QScreen> screen_;
 };
 
 template <class Board>
-Board *frmMain::StartGame(GameState &state, Libraries &libraries, int teams)
+Board *frmMain::StartGame(GameState &state, Libraries &libraries, int teams, QScreen *hostScreen,
+                          const std::function<void(frmMain *)> &loaded)
 {
     warnBeforeStart(libraries);
     QPointer<Board> board = new Board(state, libraries);
-    if (!board->start(teams) || !board)
+    if (loaded)
+        loaded(board);
+    if (!board->start(teams, hostScreen) || !board)
         return nullptr;
     return board;
 }

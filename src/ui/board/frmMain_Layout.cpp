@@ -3,6 +3,7 @@
 
 #include "frmMain.h"
 
+#include "game/GameRules.h"
 #include "game/GameState.h"
 #include "ui/controls/Backdrop.h"
 #include "ui/controls/ShadowLabel.h"
@@ -57,7 +58,7 @@ void frmMain::layOutTeamLabels(qreal referencePoints)
         const QRectF team = geometry_.teamLabel(i), score = geometry_.scoreLabel(i);
         lblTeam[i]->setFontSize(points);
         lblScore[i]->setFontSize(points);
-        lblTeam[i]->setCaption(QStringLiteral("Team %1:").arg(i + 1));
+        lblTeam[i]->setCaption(TeamName(i, state_.TeamNames[size_t(i)]) + QLatin1Char(':'));
         lblScore[i]->setCaption(QStringLiteral("$ ") + QString::number(state_.Scores[size_t(i)]));
         lblTeam[i]->setGeometry(qRound(team.x()), qRound(team.y()), lblTeam[i]->captionWidth(), h);
         lblScore[i]->setGeometry(qRound(score.x()), qRound(score.y()), lblScore[i]->captionWidth(), h);

@@ -2,6 +2,7 @@
 
 #include "frmMain.h"
 
+#include "game/GameRules.h"
 #include "game/GameState.h"
 #include "ui/controls/ShadowLabel.h"
 #include "ui/controls/CaptionControl.h"
@@ -12,6 +13,8 @@
 #include "shell/basDetectDevEnv.h"
 
 #include <QCloseEvent>
+#include <QGuiApplication>
+#include <QScreen>
 #include <QTimer>
 
 frmMain::frmMain(GameState &state, Libraries &libraries, QWidget *parent)
@@ -38,9 +41,19 @@ void frmMain::warnBeforeStart(const Libraries &libraries)
                MsgBoxStyle::OKOnly | MsgBoxStyle::Exclamation, applicationTitle());
 }
 
-bool frmMain::start(int teams)
+bool frmMain::start(int teams, QScreen *hostScreen)
 {
     Busy busy(*this);
+    // Another screen than the host's, when there is one: the projector.
+    const QList<QScreen *> screens = QGuiApplication::screens();
+    for (QScreen *s : screens) {
+        if (s != hostScreen) {
+            screen_ = s;
+            break;
+        }
+    }
+    if (screens.size() < 2 || !screen_)
+        screen_ = hostScreen ? hostScreen : QGuiApplication::primaryScreen();
     game_.setTeams(teams);
     PrepareTeamLabels(game_.state().Teams);
     Form_Resize();
@@ -151,7 +164,7 @@ void frmMain::LoadTeamLabel(int i)
         label->hide();
         array.append(label);
     };
-    const QString team = QStringLiteral("Team %1:").arg(i + 1);
+    const QString team = TeamName(i, state_.TeamNames[size_t(i)]) + QLatin1Char(':');
     make(area_, lblTeam, "lblTeam", team);
     make(area_, lblScore, "lblScore", QStringLiteral("$0"));
     make(vseTV, lblTeam2, "lblTeam2", team);
@@ -197,6 +210,14 @@ void frmMain::Unload()
         deletePending_ = true;
     else
         deleteLater();
+}
+
+void frmMain::run(const std::function<void(BoardGame &)> &action)
+{
+    if (unloaded_)
+        return;
+    Busy busy(*this);
+    action(game_);
 }
 
 frmMain::Busy::Busy(frmMain &form) : form_(form)

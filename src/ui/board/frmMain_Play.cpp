@@ -69,6 +69,7 @@ void frmMain::watchGame()
     connect(&game_, &BoardGame::headerChanged, this, &frmMain::showHeader);
     connect(&game_, &BoardGame::stepCodeChanged, this, &frmMain::showStepCode);
     connect(&game_, &BoardGame::scoreChanged, this, &frmMain::showScore);
+    connect(&game_, &BoardGame::teamNameChanged, this, &frmMain::showTeamName);
 }
 
 void frmMain::keyPressEvent(QKeyEvent *event)
@@ -76,7 +77,9 @@ void frmMain::keyPressEvent(QKeyEvent *event)
     Busy busy(*this);
     const int key = event->key();
     const QChar letter = key >= Qt::Key_A && key <= Qt::Key_Z ? QChar(char16_t(key)) : QChar();
-    if (game_.KeyDown(letter, DigitRowKey(*event), modifierBits(event->modifiers())))
+    const bool used = key == Qt::Key_Backspace ? game_.KeyBackSpace()
+                                               : game_.KeyDown(letter, DigitRowKey(*event), modifierBits(event->modifiers()));
+    if (used)
         event->accept();
     else
         event->ignore();
@@ -125,6 +128,17 @@ void frmMain::showScore(int team)
     }
 }
 
+void frmMain::showTeamName(int team)
+{
+    if (team >= lblTeam.size())
+        return;
+    const QString caption = TeamName(team, state_.TeamNames[size_t(team)]) + QLatin1Char(':');
+    for (ShadowLabel *label : {lblTeam[team], lblTeam2[team]}) {
+        label->setCaption(caption);
+        label->resize(label->captionWidth(), label->height());
+    }
+}
+
 void frmMain::hideGrid()
 {
     vseCategories->hide();
@@ -145,12 +159,24 @@ void frmMain::showBoardWindow()
         showOnWholeScreen();
 }
 
+void frmMain::moveToScreen(QScreen *target)
+{
+    screen_ = target;
+    if (isHidden())
+        return;
+    showNormal(); // a full-screen window keeps its screen otherwise
+    showOnWholeScreen();
+}
+
 void frmMain::showOnWholeScreen()
 {
     // Without a window manager "full screen" is only a wish: the window
-    // takes the screen's size itself as well.
-    if (const QScreen *s = screen())
+    // takes the screen's place and size itself as well.
+    QScreen *s = screen_ ? screen_.data() : screen();
+    if (s) {
+        setScreen(s);
         setGeometry(s->geometry());
+    }
     showFullScreen();
     activateWindow();
 }

@@ -6,6 +6,7 @@
 #include "platform/clsShellFolders.h"
 #include "ui/controls/Backdrop.h"
 #include "ui/board/frmMain.h"
+#include "ui/console/frmConsole.h"
 #include "ui/help/frmHowToPlay.h"
 #include "ui/editor/frmEditor.h"
 #include "ui/controls/CaptionControl.h"
@@ -22,6 +23,9 @@
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QFontMetricsF>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QScreen>
 #include <QLabel>
 #include <QListWidget>
 #include <QPainter>
@@ -51,7 +55,10 @@ frmSelect::frmSelect(GameState &state, Libraries &libraries, QWidget *parent)
     lstQuestions->setFocus();
 }
 
-frmSelect::~frmSelect() = default;
+frmSelect::~frmSelect()
+{
+    delete console_.data();
+}
 
 void frmSelect::createControls()
 {
@@ -163,8 +170,18 @@ void frmSelect::cmdStart_Click()
 {
     if (board_ || !checkSelectedEntry())
         return;
+    // With a second screen the board takes it (the projector) and the
+    // console comes up where the home screen was, for the host alone.
+    QScreen *hostScreen = screen();
+    const bool twoScreens = QGuiApplication::screens().size() > 1;
     hide();
-    frmMain *board = frmMain::StartGame(state_, libraries_, cmbScore->currentIndex());
+    if (twoScreens)
+        openConsole(false);
+    frmMain *board = frmMain::StartGame(state_, libraries_, cmbScore->currentIndex(), twoScreens ? hostScreen : nullptr,
+                                        [this](frmMain *loaded) {
+                                            if (console_)
+                                                console_->attach(loaded);
+                                        });
     board_ = board;
     if (board)
         connect(board, &frmMain::unloaded, this, &frmSelect::comeBack);
@@ -172,8 +189,26 @@ void frmSelect::cmdStart_Click()
         comeBack();
 }
 
+void frmSelect::openConsole(bool byHand)
+{
+    consoleByHand_ = consoleByHand_ || byHand;
+    if (!console_)
+        console_ = new frmConsole(state_);
+    if (byHand) {
+        console_->show();
+        console_->raise();
+        console_->activateWindow();
+    } else {
+        console_->showOn(screen());
+    }
+}
+
 void frmSelect::comeBack()
 {
+    // A console that came with the game goes with it; one the host opened
+    // stays.
+    if (console_ && !consoleByHand_)
+        console_->hide();
     show();
     activateWindow();
     lstQuestions->setFocus();
@@ -247,6 +282,10 @@ void frmSelect::paintEvent(QPaintEvent *)
 
 void frmSelect::keyPressEvent(QKeyEvent *event)
 {
+    if (event->key() == Qt::Key_F2) {
+        openConsole(true);
+        return;
+    }
     // Enter presses the focused button, or else Start Game while it shows.
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         auto *button = qobject_cast<QPushButton *>(focusWidget());

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "ui/board/frmMain.h"
+#include "ui/console/frmConsole.h"
 #include "platform/PictureBox.h"
 
 #include <QImage>
@@ -17,6 +18,7 @@ class QListWidget;
 class QListWidgetItem;
 class QAction;
 class QMenu;
+
 
 class frmSelect : public QWidget {
     Q_OBJECT
@@ -63,6 +65,8 @@ public:
     frmMain *board() const { return board_; }
     QWidget *editor() const { return editor_; }
     QWidget *help() const { return help_; }
+    // The host's console, once opened (for tests).
+    frmConsole *console() const { return console_; }
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -80,6 +84,9 @@ private:
     QListWidgetItem *selectedEntry() const;
     bool checkSelectedEntry();
     void comeBack();
+    // Opens the host's console: by hand as a window (to rehearse, or to name
+    // the teams), or on the host's screen when the board takes another.
+    void openConsole(bool byHand);
 
     GameState &state_;
     Libraries &libraries_;
@@ -87,4 +94,6 @@ private:
     QPointer<frmMain> board_;
     QPointer<QWidget> editor_;
     QPointer<QWidget> help_;
+    QPointer<frmConsole> console_;
+    bool consoleByHand_ = false;
 };

@@ -1,0 +1,411 @@
+#include "frmConsole.h"
+
+#include "game/BoardGame.h"
+#include "game/GameRules.h"
+#include "game/GameState.h"
+#include "platform/Clock.h"
+#include "questions/GameReads.h"
+#include "shell/basDetectDevEnv.h"
+#include "ui/board/frmMain.h"
+#include "ui/controls/FormLook.h"
+
+#include <QGridLayout>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScreen>
+#include <QSpinBox>
+#include <QStyle>
+#include <QTimer>
+
+namespace {
+
+// The answer screen stays shut to presses this long after the last one.
+constexpr qint64 kLockSeconds = 3;
+constexpr int kTickMs = 250;
+
+// Deep blue like the board, gold for money, the daily doubles in red: for
+// the host's eyes only.
+const char *const kStyle = R"(
+QWidget#frmConsole { background: #0c1c5c; }
+QLabel { color: white; }
+QLabel#lblRound { color: #ffcc33; font-weight: bold; }
+QLabel#lblClue { background: #13247a; border-radius: 6px; padding: 8px; }
+QLabel#lblResponse { background: #0a3d1f; border-radius: 6px; padding: 8px; color: #c8ffd4; }
+QLabel#lblWait { color: #ffcc33; font-weight: bold; }
+QPushButton { background: #1d3aa8; color: white; border: 1px solid #6d86e8; border-radius: 4px; padding: 4px; }
+QPushButton:disabled { background: #14224f; color: #6b7aa8; border-color: #2a3a70; }
+QPushButton[tile="out"] { background: #101a40; color: #4a5a88; border-color: #1c2a5c; }
+QPushButton[tile="double"] { background: #8a1020; color: #ffcc33; border-color: #ff5060; font-weight: bold; }
+QPushButton[tile="in"] { color: #ffcc33; font-weight: bold; }
+QPushButton#cmdNext { background: #2d8a3e; font-weight: bold; }
+QPushButton#cmdNext:disabled { background: #1b3d24; }
+QLineEdit, QSpinBox { background: white; color: black; border-radius: 3px; padding: 2px; }
+)";
+
+QPushButton *named(QPushButton *button, const QString &name)
+{
+    button->setObjectName(name);
+    button->setFocusPolicy(Qt::NoFocus);
+    return button;
+}
+
+QString indexed(const char *array, int i)
+{
+    return QStringLiteral("%1(%2)").arg(QLatin1String(array)).arg(i);
+}
+
+// What the next press on the answer screen does, by step code.
+QString nextStep(const QString &code, bool shown)
+{
+    if (!shown)
+        return QStringLiteral("No clue open");
+    if (code == QStringLiteral("NO"))
+        return QStringLiteral("Wait");
+    if (code == QStringLiteral("FC"))
+        return QStringLiteral("Show the final category");
+    if (code == QStringLiteral("FQ"))
+        return QStringLiteral("Show the final clue");
+    if (code == QStringLiteral("SQ"))
+        return QStringLiteral("Show the clue");
+    if (code == QStringLiteral("SA"))
+        return QStringLiteral("Reveal the response");
+    return QStringLiteral("Close the clue");
+}
+
+} // namespace
+
+frmConsole::frmConsole(GameState &state, QWidget *parent) : QWidget(parent), state_(state)
+{
+    setObjectName(QStringLiteral("frmConsole"));
+    setWindowTitle(QStringLiteral("Host's console"));
+    setAttribute(Qt::WA_StyledBackground);
+    setStyleSheet(QLatin1String(kStyle));
+    createControls();
+    tmrRefresh = new QTimer(this);
+    tmrRefresh->setInterval(kTickMs);
+    connect(tmrRefresh, &QTimer::timeout, this, &frmConsole::refresh);
+    resize(1024, 640);
+    refresh();
+}
+
+void frmConsole::createControls()
+{
+    auto *top = new QGridLayout(this);
+    lblRound = new QLabel(this);
+    lblRound->setObjectName(QStringLiteral("lblRound"));
+    cmdEndRound = named(new QPushButton(QStringLiteral("End round"), this), QStringLiteral("cmdEndRound"));
+    cmdEndGame = named(new QPushButton(QStringLiteral("End game"), this), QStringLiteral("cmdEndGame"));
+    cmdSwitch = named(new QPushButton(QStringLiteral("Switch screens"), this), QStringLiteral("cmdSwitch"));
+    connect(cmdEndRound, &QPushButton::clicked, this, [this] {
+        act([](BoardGame &g) { g.KeyDown(QLatin1Char('N'), -1, 7); });
+    });
+    connect(cmdEndGame, &QPushButton::clicked, this, [this] {
+        act([](BoardGame &g) { g.KeyDown(QLatin1Char('Q'), -1, 7); });
+    });
+    connect(cmdSwitch, &QPushButton::clicked, this, &frmConsole::switchScreens);
+    auto *bar = new QHBoxLayout;
+    bar->addWidget(lblRound, 1);
+    bar->addWidget(cmdEndRound);
+    bar->addWidget(cmdEndGame);
+    bar->addWidget(cmdSwitch);
+    top->addLayout(bar, 0, 0, 1, 2);
+    top->addWidget(createBoardGrid(), 1, 0);
+    top->addWidget(createCluePanel(), 1, 1);
+    top->addWidget(createTeamPanel(), 2, 0, 1, 2);
+    top->setColumnStretch(0, 3);
+    top->setColumnStretch(1, 2);
+    top->setRowStretch(1, 1);
+}
+
+QWidget *frmConsole::createBoardGrid()
+{
+    auto *grid = new QWidget(this);
+    auto *layout = new QGridLayout(grid);
+    layout->setSpacing(4);
+    for (int c = 0; c < 6; ++c) {
+        cmdHeader[size_t(c)] = named(new QPushButton(grid), indexed("cmdHeader", c));
+        cmdHeader[size_t(c)]->setToolTip(QStringLiteral("Parade the titles"));
+        connect(cmdHeader[size_t(c)], &QPushButton::clicked, this, [this] { act([](BoardGame &g) { g.HeaderPress(); }); });
+        layout->addWidget(cmdHeader[size_t(c)], 0, c);
+    }
+    for (int i = 0; i < 30; ++i) {
+        QPushButton *tile = named(new QPushButton(grid), indexed("cmdTile", i));
+        tile->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+        connect(tile, &QPushButton::clicked, this, [this, i] { pressTile(i); });
+        layout->addWidget(tile, 1 + Tiles::row(i), Tiles::column(i));
+        cmdTile[size_t(i)] = tile;
+    }
+    return grid;
+}
+
+QWidget *frmConsole::createCluePanel()
+{
+    auto *panel = new QWidget(this);
+    auto *layout = new QVBoxLayout(panel);
+    lblCategory = new QLabel(panel);
+    lblCategory->setObjectName(QStringLiteral("lblCategory"));
+    lblClue = new QLabel(panel);
+    lblClue->setObjectName(QStringLiteral("lblClue"));
+    lblResponse = new QLabel(panel);
+    lblResponse->setObjectName(QStringLiteral("lblResponse"));
+    for (QLabel *l : {lblCategory, lblClue, lblResponse})
+        l->setWordWrap(true);
+    lblWait = new QLabel(panel);
+    lblWait->setObjectName(QStringLiteral("lblWait"));
+    cmdNext = named(new QPushButton(panel), QStringLiteral("cmdNext"));
+    cmdNext->setMinimumHeight(48);
+    connect(cmdNext, &QPushButton::clicked, this, [this] { act([](BoardGame &g) { g.AnswerScreenPress(); }); });
+    layout->addWidget(lblCategory);
+    layout->addWidget(lblClue, 2);
+    layout->addWidget(lblResponse, 1);
+    layout->addWidget(lblWait);
+    layout->addWidget(cmdNext);
+    return panel;
+}
+
+QWidget *frmConsole::createTeamPanel()
+{
+    auto *panel = new QWidget(this);
+    auto *layout = new QGridLayout(panel);
+    layout->setHorizontalSpacing(6);
+    auto *amount = new QLabel(QStringLiteral("Amount $"), panel);
+    spnAmount = new QSpinBox(panel);
+    spnAmount->setObjectName(QStringLiteral("spnAmount"));
+    spnAmount->setRange(0, 9'999'999);
+    spnAmount->setSingleStep(100);
+    cmdUndo = named(new QPushButton(QStringLiteral("Undo last score"), panel), QStringLiteral("cmdUndo"));
+    connect(cmdUndo, &QPushButton::clicked, this, [this] { act([](BoardGame &g) { g.undoScore(); }); });
+    layout->addWidget(amount, 0, 0);
+    layout->addWidget(spnAmount, 0, 1);
+    layout->addWidget(cmdUndo, 0, 2);
+    for (int i = 0; i < 10; ++i) {
+        const int row = 1 + i % 5, col = (i / 5) * 4;
+        txtName[size_t(i)] = new QLineEdit(panel);
+        txtName[size_t(i)]->setObjectName(indexed("txtName", i));
+        txtName[size_t(i)]->setMaxLength(20);
+        txtName[size_t(i)]->setPlaceholderText(TeamName(i, QString()));
+        txtName[size_t(i)]->setText(state_.TeamNames[size_t(i)]);
+        connect(txtName[size_t(i)], &QLineEdit::textEdited, this, [this, i] { nameTeam(i); });
+        lblScore[size_t(i)] = new QLabel(panel);
+        lblScore[size_t(i)]->setObjectName(indexed("lblScore", i));
+        lblScore[size_t(i)]->setMinimumWidth(90);
+        cmdPlus[size_t(i)] = named(new QPushButton(QStringLiteral("+"), panel), indexed("cmdPlus", i));
+        cmdMinus[size_t(i)] = named(new QPushButton(QStringLiteral("\u2212"), panel), indexed("cmdMinus", i));
+        connect(cmdPlus[size_t(i)], &QPushButton::clicked, this, [this, i] {
+            const int amount = spnAmount->value();
+            act([i, amount](BoardGame &g) { g.addToScore(i, amount); });
+        });
+        connect(cmdMinus[size_t(i)], &QPushButton::clicked, this, [this, i] {
+            const int amount = spnAmount->value();
+            act([i, amount](BoardGame &g) { g.addToScore(i, -amount); });
+        });
+        layout->addWidget(txtName[size_t(i)], row, col);
+        layout->addWidget(lblScore[size_t(i)], row, col + 1);
+        layout->addWidget(cmdPlus[size_t(i)], row, col + 2);
+        layout->addWidget(cmdMinus[size_t(i)], row, col + 3);
+    }
+    return panel;
+}
+
+void frmConsole::attach(frmMain *board)
+{
+    if (board_)
+        disconnect(&board_->game(), nullptr, this, nullptr);
+    board_ = board;
+    openIndex_ = 0;
+    valueShown_ = -1;
+    thinkEnds_ = 0;
+    if (board) {
+        BoardGame &game = board->game();
+        for (auto signal : {&BoardGame::stepCodeChanged, &BoardGame::teamsChanged, &BoardGame::roundChanged,
+                            &BoardGame::tilesDoneChanged})
+            connect(&game, signal, this, &frmConsole::refresh);
+        for (auto signal : {&BoardGame::tileChanged, &BoardGame::headerChanged, &BoardGame::scoreChanged,
+                            &BoardGame::teamNameChanged})
+            connect(&game, signal, this, &frmConsole::refresh);
+        connect(&game, &BoardGame::thinkTimeStarted, this, [this](int ms) {
+            thinkEnds_ = Clock::instance().now() + (ms + 999) / 1000;
+            refresh();
+        });
+        connect(&game, &BoardGame::gameEnded, this, [this] { attach(nullptr); });
+        connect(board, &frmMain::unloaded, this, [this] { attach(nullptr); });
+        tmrRefresh->start();
+    } else {
+        tmrRefresh->stop();
+    }
+    refresh();
+}
+
+void frmConsole::act(const std::function<void(BoardGame &)> &action)
+{
+    if (board_)
+        board_->run(action);
+    refresh();
+}
+
+void frmConsole::pressTile(int tile)
+{
+    // SHIFT+CTRL+ALT on the console's tile is the board's special press.
+    const Qt::KeyboardModifiers m = QGuiApplication::keyboardModifiers();
+    const bool allThree = (m & Qt::ShiftModifier) && (m & Qt::ControlModifier) && (m & Qt::AltModifier);
+    act([tile, allThree](BoardGame &g) { g.TilePress(tile, true, allThree); });
+}
+
+void frmConsole::nameTeam(int team)
+{
+    const QString name = txtName[size_t(team)]->text().trimmed();
+    if (board_)
+        board_->game().setTeamName(team, name);
+    else
+        state_.TeamNames[size_t(team)] = name;
+}
+
+void frmConsole::switchScreens()
+{
+    if (!board_)
+        return;
+    QScreen *boardScreen = board_->screen(), *mine = screen();
+    if (!boardScreen || !mine || boardScreen == mine)
+        return;
+    board_->moveToScreen(mine);
+    showOn(boardScreen);
+}
+
+void frmConsole::showOn(QScreen *target)
+{
+    if (!target)
+        return;
+    // Maximized on that screen: the window manager keeps its panels free.
+    showNormal();
+    setScreen(target);
+    setGeometry(target->availableGeometry());
+    showMaximized();
+    raise();
+    activateWindow();
+}
+
+void frmConsole::refresh()
+{
+    const BoardGame *game = board_ ? &board_->game() : nullptr;
+    for (QWidget *w : {static_cast<QWidget *>(cmdEndRound), static_cast<QWidget *>(cmdEndGame),
+                       static_cast<QWidget *>(cmdUndo), static_cast<QWidget *>(spnAmount)})
+        w->setEnabled(game);
+    cmdSwitch->setEnabled(game && QGuiApplication::screens().size() > 1);
+    if (!game) {
+        lblRound->setText(QStringLiteral("No game running: name the teams, then start a game on the home screen."));
+        for (QPushButton *b : cmdHeader)
+            b->setText(QString()), b->setEnabled(false);
+        for (QPushButton *b : cmdTile)
+            b->setText(QString()), b->setEnabled(false);
+        lblCategory->clear();
+        lblClue->clear();
+        lblResponse->clear();
+        lblWait->clear();
+        cmdNext->setText(nextStep(QString(), false));
+        cmdNext->setEnabled(false);
+    } else {
+        const int round = game->settings().Round;
+        lblRound->setText((round >= 3 ? QStringLiteral("Final") : QStringLiteral("Round %1").arg(round)) +
+                          QStringLiteral("  \u2014  ") + GameReads::Description(game->settings().QuestionFile));
+        refreshGrid(*game);
+        refreshClue(*game);
+    }
+    refreshTeams(game);
+}
+
+void frmConsole::refreshGrid(const BoardGame &game)
+{
+    const BoardState &s = game.state();
+    const GameState &g = game.settings();
+    for (int c = 0; c < 6; ++c) {
+        const QString &shown = s.headerCaption[size_t(c)];
+        cmdHeader[size_t(c)]->setText(shown.isEmpty() ? s.headerTag[size_t(c)] : shown);
+        cmdHeader[size_t(c)]->setEnabled(!shown.isEmpty());
+    }
+    const bool ordinary = g.Round == 1 || g.Round == 2;
+    for (int i = 0; i < 30; ++i) {
+        QPushButton *tile = cmdTile[size_t(i)];
+        const bool inPlay = !s.tileCaption[size_t(i)].isEmpty();
+        const bool daily = ordinary && (i == g.DailyDouble1 || i == g.DailyDouble2);
+        const char *kind = !inPlay ? "out" : daily ? "double" : "in";
+        tile->setText(ordinary ? (daily ? QStringLiteral("\u2605 ") : QString()) + Tiles::caption(i, g.Round)
+                               : QString());
+        tile->setEnabled(true); // a blank tile moves a scored game on
+        if (tile->property("tile").toByteArray() != kind) {
+            tile->setProperty("tile", QByteArray(kind));
+            tile->style()->unpolish(tile);
+            tile->style()->polish(tile);
+        }
+    }
+}
+
+void frmConsole::refreshClue(const BoardGame &game)
+{
+    const BoardState &s = game.state();
+    const GameState &g = game.settings();
+    const StepCode step = ParseStepCode(s.stepCode);
+    if (!s.stepCode.isEmpty() && step.code != QStringLiteral("NO"))
+        openIndex_ = step.index;
+    const bool shown = board_->screenVisible();
+    const int i = openIndex_;
+    if (shown) {
+        const QString category = i < 0 ? GameReads::FinalTitle(g.QuestionFile)
+                                       : s.headerCaption[size_t(Tiles::column(i))].isEmpty()
+                                             ? s.headerTag[size_t(Tiles::column(i))]
+                                             : s.headerCaption[size_t(Tiles::column(i))];
+        const QString value = i < 0 ? QStringLiteral("Final") : Tiles::caption(i, g.Round);
+        const bool daily = i >= 0 && (i == g.DailyDouble1 || i == g.DailyDouble2);
+        lblCategory->setText(category + QStringLiteral("  \u2014  ") + value +
+                             (daily ? QStringLiteral("  (daily double)") : QString()));
+        lblClue->setText(GameReads::Clue(g.QuestionFile, g.Round, i));
+        lblResponse->setText(QStringLiteral("Response: ") + GameReads::Response(g.QuestionFile, g.Round, i));
+    } else {
+        lblCategory->setText(QStringLiteral("Choose a value on the board below."));
+        lblClue->clear();
+        lblResponse->clear();
+    }
+    lblWait->setText(shown ? secondsLeft(game) : QString());
+    cmdNext->setText(nextStep(step.code, shown));
+    cmdNext->setEnabled(shown && step.code != QStringLiteral("NO"));
+    if (s.CurrentValue != valueShown_) {
+        valueShown_ = s.CurrentValue;
+        spnAmount->setValue(s.CurrentValue);
+    }
+}
+
+QString frmConsole::secondsLeft(const BoardGame &game) const
+{
+    const qint64 now = Clock::instance().now();
+    if (game.state().stepCode == QStringLiteral("NO") && thinkEnds_ > now)
+        return QStringLiteral("Think music: %1 s left").arg(thinkEnds_ - now);
+    const qint64 lock = kLockSeconds - (now - game.state().LastClickTime);
+    if (basDetectDevEnv::IsRunningCompiled() && lock > 0)
+        return QStringLiteral("Locked: %1 s").arg(lock);
+    return QString();
+}
+
+void frmConsole::refreshTeams(const BoardGame *game)
+{
+    const int teams = game ? game->state().Teams : 10;
+    for (int i = 0; i < 10; ++i) {
+        const bool used = i < teams;
+        txtName[size_t(i)]->setVisible(used);
+        if (!txtName[size_t(i)]->hasFocus() && txtName[size_t(i)]->text() != state_.TeamNames[size_t(i)])
+            txtName[size_t(i)]->setText(state_.TeamNames[size_t(i)]);
+        lblScore[size_t(i)]->setVisible(used && game);
+        cmdPlus[size_t(i)]->setVisible(used && game);
+        cmdMinus[size_t(i)]->setVisible(used && game);
+        if (game)
+            lblScore[size_t(i)]->setText(QStringLiteral("$ ") + FormatScore(state_.Scores[size_t(i)]));
+    }
+}
+
+void frmConsole::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    // Read at arm's length from a laptop: the text grows with the window.
+    QFont f = ArialFont(qBound(9.0, height() / 48.0, 24.0));
+    setFont(f);
+}
