@@ -7,7 +7,6 @@
 #include "questions/GameReads.h"
 #include "shell/basDetectDevEnv.h"
 #include "ui/board/frmMain.h"
-#include "ui/controls/FormLook.h"
 
 #include <QGridLayout>
 #include <QGuiApplication>
@@ -169,19 +168,26 @@ QWidget *frmConsole::createTeamPanel()
 {
     auto *panel = new QWidget(this);
     auto *layout = new QGridLayout(panel);
-    layout->setHorizontalSpacing(6);
-    auto *amount = new QLabel(QStringLiteral("Amount $"), panel);
+    layout->setHorizontalSpacing(8);
+    auto *amountRow = new QHBoxLayout;
     spnAmount = new QSpinBox(panel);
     spnAmount->setObjectName(QStringLiteral("spnAmount"));
     spnAmount->setRange(0, 9'999'999);
     spnAmount->setSingleStep(100);
+    spnAmount->setPrefix(QStringLiteral("$ "));
+    spnAmount->setMinimumWidth(140);
+    spnAmount->setButtonSymbols(QAbstractSpinBox::NoButtons); // typed, or the value of the tile
     cmdUndo = named(new QPushButton(QStringLiteral("Undo last score"), panel), QStringLiteral("cmdUndo"));
     connect(cmdUndo, &QPushButton::clicked, this, [this] { act([](BoardGame &g) { g.undoScore(); }); });
-    layout->addWidget(amount, 0, 0);
-    layout->addWidget(spnAmount, 0, 1);
-    layout->addWidget(cmdUndo, 0, 2);
+    amountRow->addWidget(new QLabel(QStringLiteral("Amount to give (+) or take (\u2212):"), panel));
+    amountRow->addWidget(spnAmount);
+    amountRow->addSpacing(24);
+    amountRow->addWidget(cmdUndo);
+    amountRow->addStretch(1);
+    layout->addLayout(amountRow, 0, 0, 1, 10);
     for (int i = 0; i < 10; ++i) {
-        const int row = 1 + i % 5, col = (i / 5) * 4;
+        // Two columns of five teams; the second column only from team 6.
+        const int row = 1 + i % 5, col = (i / 5) * 5;
         txtName[size_t(i)] = new QLineEdit(panel);
         txtName[size_t(i)]->setObjectName(indexed("txtName", i));
         txtName[size_t(i)]->setMaxLength(20);
@@ -190,7 +196,8 @@ QWidget *frmConsole::createTeamPanel()
         connect(txtName[size_t(i)], &QLineEdit::textEdited, this, [this, i] { nameTeam(i); });
         lblScore[size_t(i)] = new QLabel(panel);
         lblScore[size_t(i)]->setObjectName(indexed("lblScore", i));
-        lblScore[size_t(i)]->setMinimumWidth(90);
+        lblScore[size_t(i)]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        lblScore[size_t(i)]->setMinimumWidth(120);
         cmdPlus[size_t(i)] = named(new QPushButton(QStringLiteral("+"), panel), indexed("cmdPlus", i));
         cmdMinus[size_t(i)] = named(new QPushButton(QStringLiteral("\u2212"), panel), indexed("cmdMinus", i));
         connect(cmdPlus[size_t(i)], &QPushButton::clicked, this, [this, i] {
@@ -201,11 +208,17 @@ QWidget *frmConsole::createTeamPanel()
             const int amount = spnAmount->value();
             act([i, amount](BoardGame &g) { g.addToScore(i, -amount); });
         });
+        for (QPushButton *b : {cmdPlus[size_t(i)], cmdMinus[size_t(i)]})
+            b->setMinimumWidth(56);
         layout->addWidget(txtName[size_t(i)], row, col);
         layout->addWidget(lblScore[size_t(i)], row, col + 1);
         layout->addWidget(cmdPlus[size_t(i)], row, col + 2);
         layout->addWidget(cmdMinus[size_t(i)], row, col + 3);
     }
+    for (int col : {0, 5})
+        layout->setColumnStretch(col, 2);
+    layout->setColumnStretch(9, 1);
+    layout->setColumnMinimumWidth(4, 24);
     return panel;
 }
 
@@ -321,7 +334,9 @@ void frmConsole::refreshGrid(const BoardGame &game)
     const GameState &g = game.settings();
     for (int c = 0; c < 6; ++c) {
         const QString &shown = s.headerCaption[size_t(c)];
-        cmdHeader[size_t(c)]->setText(shown.isEmpty() ? s.headerTag[size_t(c)] : shown);
+        // "&" would mark a shortcut: "Oceans & Seas" shows as written.
+        QString title = shown.isEmpty() ? s.headerTag[size_t(c)] : shown;
+        cmdHeader[size_t(c)]->setText(title.replace(QLatin1Char('&'), QStringLiteral("&&")));
         cmdHeader[size_t(c)]->setEnabled(!shown.isEmpty());
     }
     const bool ordinary = g.Round == 1 || g.Round == 2;
@@ -405,7 +420,14 @@ void frmConsole::refreshTeams(const BoardGame *game)
 void frmConsole::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
-    // Read at arm's length from a laptop: the text grows with the window.
-    QFont f = ArialFont(qBound(9.0, height() / 48.0, 24.0));
-    setFont(f);
+    // Read at arm's length from a laptop: the text grows with the window,
+    // the clue most of all.
+    const int points = qBound(9, height() / 56, 28);
+    if (points == fontPoints_)
+        return;
+    fontPoints_ = points;
+    setStyleSheet(QLatin1String(kStyle) + QStringLiteral("QWidget { font-family: Arial; font-size: %1pt; }"
+                                                         "QLabel#lblClue { font-size: %2pt; }"
+                                                         "QLabel#lblResponse { font-size: %3pt; }")
+                                              .arg(points).arg(points * 3 / 2).arg(points * 5 / 4));
 }

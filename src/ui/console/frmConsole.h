@@ -64,6 +64,7 @@ private:
     int openIndex_ = 0;
     qint16 valueShown_ = -1;
     qint64 thinkEnds_ = 0;
+    int fontPoints_ = 0;
 
     QLabel *lblRound = nullptr;
     QPushButton *cmdSwitch = nullptr;
