@@ -69,7 +69,11 @@ public:
             return Windows1252::decode(bytes);
         // A byte-order mark inside a name or a value is a character of it:
         // only the one at the very start of the file tells the encoding.
-        QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
+        // Bytes that are no UTF-8 (in a file marked as UTF-8) each become a
+        // replacement character, at the end too: nothing is held back for
+        // bytes to come.
+        QStringDecoder decoder(QStringDecoder::Utf8,
+                               QStringDecoder::Flag::ConvertInitialBom | QStringDecoder::Flag::Stateless);
         return decoder.decode(bytes);
     }
 
