@@ -10,6 +10,7 @@
 #include "TestSets.h"
 
 #include "game/GameRules.h"
+#include "game/GameJournal.h"
 #include "game/GameState.h"
 #include "platform/ModuleFileName.h"
 #include "platform/SpecialFolders.h"
@@ -97,6 +98,7 @@ private slots:
 
     void init()
     {
+        QFile::remove(GameJournal::defaultPath()); // no game left from another test
         state_ = GameState{};
         program_ = std::make_unique<TestFolder>();
         program_->write(QStringLiteral("game.QZ2"),

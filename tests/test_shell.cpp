@@ -6,6 +6,7 @@
 #include "ScriptedMsgBox.h"
 #include "TestFolder.h"
 
+#include "game/GameJournal.h"
 #include "game/GameState.h"
 #include "platform/ModuleFileName.h"
 #include "platform/PictureBox.h"
@@ -55,6 +56,7 @@ class TestShell : public QObject {
 private slots:
     void cleanup()
     {
+        QFile::remove(GameJournal::defaultPath()); // no game left for the next test
         ModuleFileName::declareGameExecutable(false);
         ModuleFileName::overridePath(QString());
         ModuleFileName::overrideProgramFolder(QString());

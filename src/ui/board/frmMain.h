@@ -13,6 +13,7 @@
 #include "board/BoardLayout.h"
 #include "game/BoardGame.h"
 #include "game/BoardView.h"
+#include "game/GameJournal.h"
 #include "platform/PictureBox.h"
 
 #include <QColor>
@@ -49,6 +50,12 @@ public:
     template <class Board = frmMain>
     static Board *StartGame(GameState &state, Libraries &libraries, int teams, QScreen *hostScreen = nullptr,
                             const std::function<void(frmMain *)> &loaded = {});
+
+    // Opens a new board on a game left behind, as its journal recorded it,
+    // with no warning and no start sound: the class is waiting.
+    template <class Board = frmMain>
+    static Board *ResumeGame(GameState &state, Libraries &libraries, const JournalRecord &record,
+                             QScreen *hostScreen = nullptr, const std::function<void(frmMain *)> &loaded = {});
 
     // Runs an action of the host's on the game as the board's own presses
     // and keys run (the board stays while the action lasts).
@@ -133,9 +140,14 @@ private:
     };
 
     static void warnBeforeStart(const Libraries &libraries);
-    // StartGame's steps on the loaded board; false when it was ended during
-    // the start sound.
-    bool start(int teams, QScreen *hostScreen);
+    // Loads a board and plays the game on it (start or resume); the board,
+    // or nullptr when the host ended it before the first round showed.
+    template <class Board>
+    static Board *open(GameState &state, Libraries &libraries, int teams, QScreen *hostScreen,
+                       const std::function<void(frmMain *)> &loaded, const std::function<void(BoardGame &)> &play);
+    // The loaded board's teams and labels, laid out and shown on its
+    // screen; then play; false when the board was ended meanwhile.
+    bool present(int teams, QScreen *hostScreen, const std::function<void(BoardGame &)> &play);
 
     // The game's announcements, shown on the controls.
     void showTile(int tile);
@@ -192,14 +204,29 @@ private:
 };
 
 template <class Board>
+Board *frmMain::open(GameState &state, Libraries &libraries, int teams, QScreen *hostScreen,
+                     const std::function<void(frmMain *)> &loaded, const std::function<void(BoardGame &)> &play)
+{
+    QPointer<Board> board = new Board(state, libraries);
+    if (loaded)
+        loaded(board);
+    if (!board->present(teams, hostScreen, play) || !board)
+        return nullptr;
+    return board;
+}
+
+template <class Board>
 Board *frmMain::StartGame(GameState &state, Libraries &libraries, int teams, QScreen *hostScreen,
                           const std::function<void(frmMain *)> &loaded)
 {
     warnBeforeStart(libraries);
-    QPointer<Board> board = new Board(state, libraries);
-    if (loaded)
-        loaded(board);
-    if (!board->start(teams, hostScreen) || !board)
-        return nullptr;
-    return board;
+    return open<Board>(state, libraries, teams, hostScreen, loaded, [](BoardGame &game) { game.start(); });
+}
+
+template <class Board>
+Board *frmMain::ResumeGame(GameState &state, Libraries &libraries, const JournalRecord &record, QScreen *hostScreen,
+                           const std::function<void(frmMain *)> &loaded)
+{
+    return open<Board>(state, libraries, record.teams, hostScreen, loaded,
+                       [&record](BoardGame &game) { game.resume(record); });
 }

@@ -41,7 +41,7 @@ void frmMain::warnBeforeStart(const Libraries &libraries)
                MsgBoxStyle::OKOnly | MsgBoxStyle::Exclamation, applicationTitle());
 }
 
-bool frmMain::start(int teams, QScreen *hostScreen)
+bool frmMain::present(int teams, QScreen *hostScreen, const std::function<void(BoardGame &)> &play)
 {
     Busy busy(*this);
     // Another screen than the host's, when there is one: the projector.
@@ -59,7 +59,7 @@ bool frmMain::start(int teams, QScreen *hostScreen)
     Form_Resize();
     showOnWholeScreen();
     repaint();
-    game_.start();
+    play(game_);
     return !unloaded_;
 }
 
