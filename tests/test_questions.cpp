@@ -493,6 +493,30 @@ private slots:
         QVERIFY(err.contains("cannot read"));
     }
 
+    void picturesTravelWithTheirCluesAndOnlyWhenThere()
+    {
+        QTemporaryDir dir;
+        QuestionSet set = distinctSet();
+        set.Categories[0][3].Picture[2] = QStringLiteral("maps/alps.png");
+        set.Categories[2][0].Picture[0] = QStringLiteral("/srv/pictures/globe.svg");
+        const QString file = dir.filePath(QStringLiteral("pics.QZ2"));
+        QVERIFY(!WriteQuestionSet(set, file));
+        const QByteArray bytes = QuestionSetFileBytes(set);
+        QVERIFY(bytes.contains("Question2=What is 0.3.2?\r\nPicture2=maps/alps.png\r\nAnswer3="));
+        QVERIFY(bytes.endsWith("Picture=/srv/pictures/globe.svg\r\n"));
+        QCOMPARE(bytes.count("Picture"), 2); // clues without pictures write no key
+        const QuestionSet back = LoadQuestionSet(file);
+        QCOMPARE(back.Categories[0][3].Picture[2], QStringLiteral("maps/alps.png"));
+        QCOMPARE(back.Categories[0][3].Picture[1], QString());
+        QCOMPARE(back.Categories[2][0].Picture[0], QStringLiteral("/srv/pictures/globe.svg"));
+        // The game finds a picture beside the set, or where an absolute name says.
+        QCOMPARE(GameReads::CluePicture(file, 1, 2 * 6 + 3), QDir(dir.path()).filePath(QStringLiteral("maps/alps.png")));
+        QCOMPARE(GameReads::CluePicture(file, 3, -1), QStringLiteral("/srv/pictures/globe.svg"));
+        QCOMPARE(GameReads::CluePicture(file, 1, 0), QString());
+        // A set without pictures keeps its exact bytes (the sample sets below).
+        QVERIFY(!QuestionSetFileBytes(distinctSet()).contains("Picture"));
+    }
+
     void sampleSetsAreAllPlayable()
     {
         const QStringList sets = QDir(QStringLiteral(QUIZZARR_PROGRAM_DIR)).entryList({QStringLiteral("*.QZ2")});

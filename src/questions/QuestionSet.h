@@ -12,6 +12,9 @@ struct CategoryEntry {
     QString Title;
     std::array<QString, 5> Answer;   // the clues, top row first
     std::array<QString, 5> Question; // the responses
+    // Pictures shown with the clues: a file name relative to the set's
+    // folder, or absolute; empty for none (and then not written at all).
+    std::array<QString, 5> Picture;
 };
 
 struct QuestionSet {
