@@ -248,6 +248,7 @@ private slots:
         clock_->advance(1000);
         game_->AnswerScreenPress();
         QCOMPARE(view_->screenText, QStringLiteral("r1c1q%1").arg(tile / 6));
+        QCOMPARE(view_->screenPicture, QString()); // a response never shows the clue's picture
         QVERIFY(!view_->timerActive);
         // Outside the game's own executable there is no lock.
         compiled(false);

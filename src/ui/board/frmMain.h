@@ -17,6 +17,7 @@
 #include "platform/PictureBox.h"
 
 #include <QColor>
+#include <QHash>
 #include <QImage>
 #include <QList>
 #include <QPixmap>
@@ -116,6 +117,8 @@ protected:
     // The answer screen grows out of a tile or header to cover the board.
     void ZoomTV(ZoomSource source, qint32 PictureID) override;
     void RotateTV(qint32 PictureID1, qint32 PictureID2) override;
+    // Fits a clue or response into the answer screen, with its picture.
+    void showOnScreen(const QString &text, const QString &picture = QString()) override;
 
     // Form_Unload: shuts the sound down, tells the home screen, and lets
     // the window go.
@@ -164,7 +167,6 @@ private:
     void showTileRow(int row) override;
     void setScreenCaption(const QString &caption) override;
     void screenTakesTile(int tile) override;
-    void showOnScreen(const QString &text) override;
     void setOverlayCaptions(const QString &category, const QString &value) override;
     void setCategoryCaption(const QString &category) override;
     void showOverlay(int column) override;
@@ -185,6 +187,9 @@ private:
     void scaleBanner();
     // Shows the board over the whole of its screen.
     void showOnWholeScreen();
+    // A clue's picture, read once per board to fit the answer screen; null
+    // when the file is missing or unreadable (the clue then shows alone).
+    QImage cluePicture(const QString &path);
     // Shows one step of an animation as its own frame.
     void showFrame(int pauseMs);
 
@@ -201,6 +206,7 @@ private:
     int busy_ = 0;
     bool deletePending_ = false;
     QPointer<QScreen> screen_;
+    QHash<QString, QImage> cluePictures_;
 };
 
 template <class Board>
