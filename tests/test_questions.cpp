@@ -9,6 +9,9 @@
 #include "questions/QuestionSet.h"
 
 #include <QDir>
+#include <QImage>
+#include <QJsonObject>
+#include <QJsonArray>
 #include <QProcess>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
@@ -435,6 +438,36 @@ private slots:
                                  "\"final\": {\"title\": \"F\", \"answer\": \"fa\", \"question\": \"fq\"}}\n"));
         const QJsonDocument doc = QJsonDocument::fromJson(out);
         QVERIFY(doc.isObject());
+    }
+
+    void qz2ChecksAndListsPictures()
+    {
+        QDir(dir_.path()).mkpath(QStringLiteral("pics"));
+        QImage dot(4, 4, QImage::Format_RGB32);
+        dot.fill(Qt::red);
+        QVERIFY(dot.save(dir_.filePath(QStringLiteral("pics/good.png"))));
+        write(QStringLiteral("pics/broken.png"), "not a picture");
+        const QString path = write(QStringLiteral("pics.QZ2"),
+                                   crlf({QStringLiteral("[Round1]"), QStringLiteral("Description=d"), QStringLiteral("Category0=C"),
+                                         QString(), QStringLiteral("[Round1Category0]"), QStringLiteral("Answer0=a"),
+                                         QStringLiteral("Question0=q"), QStringLiteral("Picture0=pics/good.png"),
+                                         QStringLiteral("Answer1=a"), QStringLiteral("Question1=q"),
+                                         QStringLiteral("Picture1=pics/broken.png"), QStringLiteral("Answer2=a"),
+                                         QStringLiteral("Question2=q"), QStringLiteral("Picture2=pics/gone.png"), QString(),
+                                         QStringLiteral("[Final]"), QStringLiteral("Category=F"), QStringLiteral("Answer=fa"),
+                                         QStringLiteral("Question=fq"), QStringLiteral("Picture=pics/good.png")}));
+        QByteArray out;
+        QCOMPARE(runQz2({QStringLiteral("check"), path}, &out), 0); // still playable: the clues show alone
+        QVERIFY(!out.contains("good.png"));
+        QVERIFY(out.contains("  picture: [Round1Category0] Picture1: " + QFile::encodeName(dir_.filePath(QStringLiteral("pics/broken.png"))) +
+                             " cannot be read as a picture"));
+        QVERIFY(out.contains("  picture: [Round1Category0] Picture2: " + QFile::encodeName(dir_.filePath(QStringLiteral("pics/gone.png"))) +
+                             " is missing (the clue shows without it)"));
+        QCOMPARE(runQz2({QStringLiteral("show"), path}, &out), 0);
+        const QJsonObject set = QJsonDocument::fromJson(out).object();
+        QCOMPARE(set[QStringLiteral("rounds")][0][0][QStringLiteral("pictures")].toArray().at(2).toString(),
+                 QStringLiteral("pics/gone.png"));
+        QCOMPARE(set[QStringLiteral("final")][QStringLiteral("picture")].toString(), QStringLiteral("pics/good.png"));
     }
 
     void qz2ConvertsALegacyFile()

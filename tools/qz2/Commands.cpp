@@ -44,9 +44,18 @@ QString categoryJson(const CategoryEntry &c)
         answers << Json::string(c.Answer[size_t(j)]);
         questions << Json::string(c.Question[size_t(j)]);
     }
-    return Json::object({{QStringLiteral("title"), Json::string(c.Title)},
-                         {QStringLiteral("answers"), Json::array(answers)},
-                         {QStringLiteral("questions"), Json::array(questions)}});
+    QList<std::pair<QString, QString>> members{{QStringLiteral("title"), Json::string(c.Title)},
+                                               {QStringLiteral("answers"), Json::array(answers)},
+                                               {QStringLiteral("questions"), Json::array(questions)}};
+    // Only a category with pictures lists them: the JSON of a set without
+    // stays as it was.
+    if (std::any_of(c.Picture.begin(), c.Picture.end(), [](const QString &p) { return !p.isEmpty(); })) {
+        QStringList pictures;
+        for (const QString &p : c.Picture)
+            pictures << Json::string(p);
+        members.append({QStringLiteral("pictures"), Json::array(pictures)});
+    }
+    return Json::object(members);
 }
 
 // As the game reads: a file that cannot be read gives the default, which
@@ -58,6 +67,16 @@ int get(const QStringList &a, QTextStream &out, QTextStream &err)
         err << "qz2: warning: cannot read " << a[0] << ": " << why << "; the read gives the default\n";
     out << GetPrivateProfileString(a[1], a[2], a[3], a[0]) << "\n";
     return 0;
+}
+
+QString finalJson(const CategoryEntry &final)
+{
+    QList<std::pair<QString, QString>> members{{QStringLiteral("title"), Json::string(final.Title)},
+                                               {QStringLiteral("answer"), Json::string(final.Answer[0])},
+                                               {QStringLiteral("question"), Json::string(final.Question[0])}};
+    if (!final.Picture[0].isEmpty())
+        members.append({QStringLiteral("picture"), Json::string(final.Picture[0])});
+    return Json::object(members);
 }
 
 int show(const QString &path, QTextStream &out, QTextStream &err)
@@ -79,9 +98,7 @@ int show(const QString &path, QTextStream &out, QTextStream &err)
                          {QStringLiteral("roundCount"), QString::number(set.RoundCount)},
                          {QStringLiteral("categoryCount"), Json::array(counts)},
                          {QStringLiteral("rounds"), Json::array(rounds)},
-                         {QStringLiteral("final"), Json::object({{QStringLiteral("title"), Json::string(final.Title)},
-                                                                 {QStringLiteral("answer"), Json::string(final.Answer[0])},
-                                                                 {QStringLiteral("question"), Json::string(final.Question[0])}})}})
+                         {QStringLiteral("final"), finalJson(final)}})
         << "\n";
     return 0;
 }
