@@ -440,36 +440,6 @@ private slots:
         QVERIFY(doc.isObject());
     }
 
-    void qz2ChecksAndListsPictures()
-    {
-        QDir(dir_.path()).mkpath(QStringLiteral("pics"));
-        QImage dot(4, 4, QImage::Format_RGB32);
-        dot.fill(Qt::red);
-        QVERIFY(dot.save(dir_.filePath(QStringLiteral("pics/good.png"))));
-        write(QStringLiteral("pics/broken.png"), "not a picture");
-        const QString path = write(QStringLiteral("pics.QZ2"),
-                                   crlf({QStringLiteral("[Round1]"), QStringLiteral("Description=d"), QStringLiteral("Category0=C"),
-                                         QString(), QStringLiteral("[Round1Category0]"), QStringLiteral("Answer0=a"),
-                                         QStringLiteral("Question0=q"), QStringLiteral("Picture0=pics/good.png"),
-                                         QStringLiteral("Answer1=a"), QStringLiteral("Question1=q"),
-                                         QStringLiteral("Picture1=pics/broken.png"), QStringLiteral("Answer2=a"),
-                                         QStringLiteral("Question2=q"), QStringLiteral("Picture2=pics/gone.png"), QString(),
-                                         QStringLiteral("[Final]"), QStringLiteral("Category=F"), QStringLiteral("Answer=fa"),
-                                         QStringLiteral("Question=fq"), QStringLiteral("Picture=pics/good.png")}));
-        QByteArray out;
-        QCOMPARE(runQz2({QStringLiteral("check"), path}, &out), 0); // still playable: the clues show alone
-        QVERIFY(!out.contains("good.png"));
-        QVERIFY(out.contains("  picture: [Round1Category0] Picture1: " + QFile::encodeName(dir_.filePath(QStringLiteral("pics/broken.png"))) +
-                             " cannot be read as a picture"));
-        QVERIFY(out.contains("  picture: [Round1Category0] Picture2: " + QFile::encodeName(dir_.filePath(QStringLiteral("pics/gone.png"))) +
-                             " is missing (the clue shows without it)"));
-        QCOMPARE(runQz2({QStringLiteral("show"), path}, &out), 0);
-        const QJsonObject set = QJsonDocument::fromJson(out).object();
-        QCOMPARE(set[QStringLiteral("rounds")][0][0][QStringLiteral("pictures")].toArray().at(2).toString(),
-                 QStringLiteral("pics/gone.png"));
-        QCOMPARE(set[QStringLiteral("final")][QStringLiteral("picture")].toString(), QStringLiteral("pics/good.png"));
-    }
-
     void qz2ConvertsALegacyFile()
     {
         const QString legacy = write(QStringLiteral("Conv.QZA"),
@@ -524,30 +494,6 @@ private slots:
         QCOMPARE(runQz2({QStringLiteral("frobnicate"), QStringLiteral("a")}), 2);
         QCOMPARE(runQz2({QStringLiteral("show"), dir_.filePath(QStringLiteral("absent.QZ2"))}, nullptr, &err), 1);
         QVERIFY(err.contains("cannot read"));
-    }
-
-    void picturesTravelWithTheirCluesAndOnlyWhenThere()
-    {
-        QTemporaryDir dir;
-        QuestionSet set = distinctSet();
-        set.Categories[0][3].Picture[2] = QStringLiteral("maps/alps.png");
-        set.Categories[2][0].Picture[0] = QStringLiteral("/srv/pictures/globe.svg");
-        const QString file = dir.filePath(QStringLiteral("pics.QZ2"));
-        QVERIFY(!WriteQuestionSet(set, file));
-        const QByteArray bytes = QuestionSetFileBytes(set);
-        QVERIFY(bytes.contains("Question2=What is 0.3.2?\r\nPicture2=maps/alps.png\r\nAnswer3="));
-        QVERIFY(bytes.endsWith("Picture=/srv/pictures/globe.svg\r\n"));
-        QCOMPARE(bytes.count("Picture"), 2); // clues without pictures write no key
-        const QuestionSet back = LoadQuestionSet(file);
-        QCOMPARE(back.Categories[0][3].Picture[2], QStringLiteral("maps/alps.png"));
-        QCOMPARE(back.Categories[0][3].Picture[1], QString());
-        QCOMPARE(back.Categories[2][0].Picture[0], QStringLiteral("/srv/pictures/globe.svg"));
-        // The game finds a picture beside the set, or where an absolute name says.
-        QCOMPARE(GameReads::CluePicture(file, 1, 2 * 6 + 3), QDir(dir.path()).filePath(QStringLiteral("maps/alps.png")));
-        QCOMPARE(GameReads::CluePicture(file, 3, -1), QStringLiteral("/srv/pictures/globe.svg"));
-        QCOMPARE(GameReads::CluePicture(file, 1, 0), QString());
-        // A set without pictures keeps its exact bytes (the sample sets below).
-        QVERIFY(!QuestionSetFileBytes(distinctSet()).contains("Picture"));
     }
 
     void sampleSetsAreAllPlayable()

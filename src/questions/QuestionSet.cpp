@@ -1,5 +1,8 @@
 #include "QuestionSet.h"
 
+#include <QDir>
+#include <QFileInfo>
+
 #include "platform/NumberText.h"
 #include "platform/GetPrivateProfileString.h"
 #include "platform/ModuleFileName.h"
@@ -171,4 +174,30 @@ QByteArray QuestionSetFileBytes(const QuestionSet &set)
 FileError WriteQuestionSet(const QuestionSet &set, const QString &FileName)
 {
     return WriteFileReplacing(WithQz2Extension(FileName), QuestionSetFileBytes(set));
+}
+
+FileError CopySetPictures(const QString &fromSet, const QString &toSet)
+{
+    const QuestionSet set = LoadQuestionSet(fromSet);
+    const QDir from = QFileInfo(fromSet).absoluteDir(), to = QFileInfo(toSet).absoluteDir();
+    if (from == to)
+        return {};
+    QStringList names;
+    for (const auto &round : set.Categories) {
+        for (const CategoryEntry &entry : round)
+            names += QStringList(entry.Picture.begin(), entry.Picture.end());
+    }
+    FileError first;
+    for (const QString &name : names) {
+        const QString clean = QDir::cleanPath(name);
+        if (name.isEmpty() || QFileInfo(name).isAbsolute() || clean.startsWith(QStringLiteral("..")) ||
+            !QFileInfo(from.filePath(clean)).isFile())
+            continue;
+        const QString target = to.filePath(clean);
+        QDir().mkpath(QFileInfo(target).absolutePath());
+        const FileError e = CopyFileReplacing(from.filePath(clean), target);
+        if (e && !first)
+            first = e;
+    }
+    return first;
 }

@@ -53,3 +53,10 @@ QByteArray QuestionSetFileBytes(const QuestionSet &set);
 // the error's number and description come back and any old file of that
 // name is left as it was.
 FileError WriteQuestionSet(const QuestionSet &set, const QString &FileName);
+
+// Copies the pictures a set names by a relative name from beside the set
+// toSet was copied from to the same places beside toSet, making folders
+// as needed. Absolute names, names that leave the set's folder, pictures
+// that are not there and a copy onto itself are passed over: the set plays
+// without them. The first failure to write comes back.
+FileError CopySetPictures(const QString &fromSet, const QString &toSet);
