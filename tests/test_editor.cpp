@@ -302,6 +302,20 @@ private slots:
         QVERIFY(read(path(QStringLiteral("Short.QZ2"))).contains("\r\nTimer=3\r\n"));
     }
 
+    void printsTheHostSheetOfTheSetAsItStands()
+    {
+        open();
+        type(editor_->txtDesc, QStringLiteral("Sheet test"));
+        dialogs_->choose(path(QStringLiteral("sheet.pdf")));
+        editor_->mnuPrintSheet->trigger();
+        const FileDialogRequest &r = dialogs_->requests.last();
+        QVERIFY(r.save);
+        QCOMPARE(r.title, QStringLiteral("Print Host Sheet"));
+        QCOMPARE(r.defaultExtension, QStringLiteral("pdf"));
+        QVERIFY(read(path(QStringLiteral("sheet.pdf"))).startsWith("%PDF"));
+        QVERIFY(!editor_->Modified.isEmpty()); // printing is not saving
+    }
+
     void writesExactlyWhatWasTyped()
     {
         open();

@@ -10,7 +10,7 @@
 
 namespace {
 
-const char kUsage[] = "usage: qz2 get FILE SECTION KEY DEFAULT | qz2 show FILE | qz2 convert IN [OUT] | qz2 check FILE...";
+const char kUsage[] = "usage: qz2 get FILE SECTION KEY DEFAULT | qz2 show FILE | qz2 convert IN [OUT] | qz2 check FILE... | qz2 sheet SET OUT.pdf";
 
 // Why a file cannot be read, or an empty text when it can.
 QString unreadable(const QString &path)
@@ -147,6 +147,8 @@ int RunQz2(const QStringList &args, QTextStream &out, QTextStream &err)
         return convert(rest, out, err);
     if (command == QStringLiteral("check") && !rest.isEmpty())
         return check(rest, out, err);
+    if (command == QStringLiteral("sheet") && rest.size() == 2)
+        return sheet(rest, out, err);
     err << kUsage << "\n";
     return 2;
 }

@@ -56,12 +56,15 @@ public:
     QAction *mnuNew = nullptr;
     QAction *mnuOpen = nullptr;
     QAction *mnuSave = nullptr;
+    QAction *mnuPrintSheet = nullptr;
     QAction *mnuExit = nullptr;
 
     void mnuNew_Click();
     void mnuOpen_Click();
     void mnuSave_Click();
     void mnuExit_Click();
+    // The set on paper for the host (a PDF), without saving it.
+    void mnuPrintSheet_Click();
 
     // Replaces the set with a file's content and shows it.
     void LoadQuestionSet(const QString &FileName);
