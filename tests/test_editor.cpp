@@ -13,6 +13,9 @@
 
 #include <QAbstractItemView>
 #include <QComboBox>
+#include <QToolButton>
+#include <QImage>
+#include <QDir>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -300,6 +303,35 @@ private slots:
         dialogs_->choose(path(QStringLiteral("Short")));
         editor_->mnuSave->trigger(); // a menu command takes no focus
         QVERIFY(read(path(QStringLiteral("Short.QZ2"))).contains("\r\nTimer=3\r\n"));
+    }
+
+    void cluesTakeAPictureChosenBesideTheSet()
+    {
+        QuestionSet set;
+        set.Description = QStringLiteral("With pictures");
+        QVERIFY(!WriteQuestionSet(set, path(QStringLiteral("Pics.QZ2"))));
+        QDir(path(QString())).mkpath(QStringLiteral("art"));
+        QImage flag(30, 20, QImage::Format_RGB32);
+        flag.fill(Qt::blue);
+        QVERIFY(flag.save(path(QStringLiteral("art/flag.png"))));
+        open(path(QStringLiteral("Pics.QZ2")));
+        QVERIFY(editor_->cmdPicture[2]->icon().isNull());
+        dialogs_->choose(path(QStringLiteral("art/flag.png")));
+        editor_->cmdPicture[2]->click();
+        QCOMPARE(dialogs_->requests.last().flags & 0x1000u, 0x1000u); // the file must exist
+        QCOMPARE(editor_->questionSet.Categories[0][0].Picture[2], QStringLiteral("art/flag.png")); // relative to the set
+        QVERIFY(!editor_->cmdPicture[2]->icon().isNull()); // its thumbnail
+        QCOMPARE(editor_->Modified, QStringLiteral("X"));
+        editor_->optCategory[1]->click();
+        QVERIFY(editor_->cmdPicture[2]->icon().isNull()); // another category, its own pictures
+        editor_->optCategory[0]->click();
+        dialogs_->choose(path(QStringLiteral("Pics")));
+        editor_->mnuSave->trigger();
+        QVERIFY(read(path(QStringLiteral("Pics.QZ2"))).contains("\r\nPicture2=art/flag.png\r\n"));
+        editor_->mnuRemovePicture[2]->trigger();
+        QCOMPARE(editor_->questionSet.Categories[0][0].Picture[2], QString());
+        QVERIFY(editor_->cmdPicture[2]->icon().isNull());
+        QCOMPARE(editor_->Modified, QStringLiteral("X"));
     }
 
     void printsTheHostSheetOfTheSetAsItStands()
