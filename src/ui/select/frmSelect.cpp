@@ -66,6 +66,8 @@ void frmSelect::createControls()
     lstQuestions = new QListWidget(this);
     lstQuestions->setFont(ArialFont(9.75));
     lstQuestions->setItemDelegate(new QuestionListDelegate(lstQuestions));
+    // Every entry is one line: the list need not measure ten thousand rows.
+    lstQuestions->setUniformItemSizes(true);
     lstQuestions->setSelectionMode(QAbstractItemView::SingleSelection);
     connect(lstQuestions, &QListWidget::itemDoubleClicked, this, [this] { cmdStart_Click(); });
 
@@ -119,10 +121,14 @@ void frmSelect::PopulateQZ2()
     lstQuestions->clear();
     const QString program = ModuleFileName::programFolder();
     lstQuestions->setProperty("programFolder", program);
+    // Filled out of sight: the view lays out once, not once per entry.
+    lstQuestions->setUpdatesEnabled(false);
     for (const QuestionSetEntry &entry : ListQuestionSets(program, documentsFolder())) {
-        auto *item = new QListWidgetItem(entry.text, lstQuestions);
+        auto *item = new QListWidgetItem(entry.text);
         item->setData(Qt::UserRole, entry.folder);
+        lstQuestions->addItem(item);
     }
+    lstQuestions->setUpdatesEnabled(true);
     lstQuestions->setCurrentRow(-1);
     lstQuestions->clearSelection();
     cmdStart->setVisible(lstQuestions->count() > 0);
