@@ -124,7 +124,7 @@ private slots:
         QCOMPARE(QApplication::topLevelWidgets().size(), windows);
         if (kHeapMeasurable) {
             const qint64 grown = heapInUse() - heap;
-            QVERIFY2(grown < 512 * 1024, qPrintable(QStringLiteral("the heap grew %1 bytes in 90 games").arg(grown)));
+            QVERIFY2(grown < 256 * 1024, qPrintable(QStringLiteral("the heap grew %1 bytes in 90 games").arg(grown)));
         }
         QCOMPARE(state_.Scores[0], 100 + 200 + 300 + 400 + 500 + 100 - Tiles::value(state_.DailyDouble1, 1));
         QVERIFY(!QFile::exists(GameJournal::defaultPath()));

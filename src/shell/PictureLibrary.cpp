@@ -24,7 +24,9 @@ QImage PictureLibrary::bitmap(int32_t id) const
     uint32_t size = 0;
     QImage image;
     if (loadBitmap_(id, &data, &size) == 0 && data && size > 0)
-        image = QImage::fromData(data, int(size), "PNG");
+        // Decoded once into the form every drawing uses: each board then
+        // shares this very image, and so do the scaled copies Qt caches.
+        image = QImage::fromData(data, int(size), "PNG").convertToFormat(QImage::Format_ARGB32_Premultiplied);
     if (!image.isNull())
         decoded_.insert(id, image);
     return image;
