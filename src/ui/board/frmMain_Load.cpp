@@ -21,6 +21,8 @@ frmMain::frmMain(GameState &state, Libraries &libraries, QWidget *parent)
     : QWidget(parent), state_(state), libraries_(libraries)
 {
     setAttribute(Qt::WA_DeleteOnClose);
+    // The backdrop is painted whole: Qt need not fill the window first.
+    setAttribute(Qt::WA_OpaquePaintEvent);
     setWindowTitle(applicationTitle());
     setFocusPolicy(Qt::StrongFocus);
     resize(1024, 768);

@@ -27,6 +27,10 @@ void CaptionControl::setCaption(const QString &caption)
 
 void CaptionControl::setPicture(const QImage &picture)
 {
+    // A picture without see-through parts covers the control whole: what
+    // lies beneath need not be painted first (a 4K board has thirty-six
+    // such captions over its backdrop).
+    setAttribute(Qt::WA_OpaquePaintEvent, !picture.isNull() && !picture.hasAlphaChannel());
     picture_ = picture;
     invalidate();
 }
