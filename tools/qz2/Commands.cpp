@@ -2,18 +2,14 @@
 
 #include "Json.h"
 #include "SetCheck.h"
+#include "TableCommands.h"
 #include "platform/GetPrivateProfileString.h"
 #include "questions/QuestionSet.h"
 
 #include <QFile>
 #include <QFileInfo>
 
-namespace {
-
-const char kUsage[] = "usage: qz2 get FILE SECTION KEY DEFAULT | qz2 show FILE | qz2 convert IN [OUT] | qz2 check FILE... | qz2 sheet SET OUT.pdf";
-
-// Why a file cannot be read, or an empty text when it can.
-QString unreadable(const QString &path)
+QString UnreadableFile(const QString &path)
 {
     const QFileInfo info(path);
     if (!info.exists())
@@ -28,9 +24,15 @@ QString unreadable(const QString &path)
     return QString();
 }
 
+namespace {
+
+const char kUsage[] = "usage: qz2 get FILE SECTION KEY DEFAULT | qz2 show FILE | qz2 convert IN [OUT] | qz2 check FILE... | "
+                      "qz2 sheet SET OUT.pdf | qz2 import TABLE [OUT] [--description TEXT] [--timer SECONDS] | "
+                      "qz2 export SET TABLE";
+
 bool readable(const QString &path, QTextStream &err)
 {
-    const QString why = unreadable(path);
+    const QString why = UnreadableFile(path);
     if (why.isEmpty())
         return true;
     err << "qz2: cannot read " << path << ": " << why << "\n";
@@ -62,7 +64,7 @@ QString categoryJson(const CategoryEntry &c)
 // is an answer like any other; the warning only says why.
 int get(const QStringList &a, QTextStream &out, QTextStream &err)
 {
-    const QString why = unreadable(a[0]);
+    const QString why = UnreadableFile(a[0]);
     if (!why.isEmpty())
         err << "qz2: warning: cannot read " << a[0] << ": " << why << "; the read gives the default\n";
     out << GetPrivateProfileString(a[1], a[2], a[3], a[0]) << "\n";
@@ -149,6 +151,10 @@ int RunQz2(const QStringList &args, QTextStream &out, QTextStream &err)
         return check(rest, out, err);
     if (command == QStringLiteral("sheet") && rest.size() == 2)
         return sheet(rest, out, err);
+    if (command == QStringLiteral("import"))
+        return ImportTable(rest, out, err);
+    if (command == QStringLiteral("export") && rest.size() == 2)
+        return ExportTable(rest, out, err);
     err << kUsage << "\n";
     return 2;
 }

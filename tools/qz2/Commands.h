@@ -11,3 +11,6 @@ int RunQz2(const QStringList &args, QTextStream &out, QTextStream &err);
 // The host's sheet of a set as a PDF; needs a QGuiApplication (main makes
 // one, offscreen, for this command alone).
 int sheet(const QStringList &args, QTextStream &out, QTextStream &err);
+
+// Why a file cannot be read, or an empty text when it can.
+QString UnreadableFile(const QString &path);
