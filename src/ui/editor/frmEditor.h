@@ -5,7 +5,8 @@
 //
 // Split by concern: commands, load and layout (frmEditor.cpp); rounds,
 // categories and fields (frmEditor_Fields.cpp); the clues' pictures
-// (frmEditor_Pictures.cpp); the host's sheet (frmEditor_Sheet.cpp).
+// (frmEditor_Pictures.cpp); the host's sheet (frmEditor_Sheet.cpp);
+// spreadsheets in and out (frmEditor_Spreadsheet.cpp).
 #pragma once
 
 #include "questions/QuestionSet.h"
@@ -63,11 +64,15 @@ public:
     QAction *mnuOpen = nullptr;
     QAction *mnuSave = nullptr;
     QAction *mnuPrintSheet = nullptr;
+    QAction *mnuImportTable = nullptr;
+    QAction *mnuExportTable = nullptr;
     QAction *mnuExit = nullptr;
 
     void mnuNew_Click();
     void mnuOpen_Click();
     void mnuSave_Click();
+    void mnuImportTable_Click();
+    void mnuExportTable_Click();
     void mnuExit_Click();
     // The set on paper for the host (a PDF), without saving it.
     void mnuPrintSheet_Click();
