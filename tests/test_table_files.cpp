@@ -12,6 +12,28 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+namespace {
+
+// The zip with one file's CRC-32 changed in its local and its central
+// header alike, so the entry opens and inflates but is not what was stored.
+QByteArray withWrongChecksum(QByteArray zip, const QByteArray &name)
+{
+    struct Header {
+        QByteArray signature;
+        int nameLength, name, crc;
+    };
+    for (const Header &h : {Header{"PK\x03\x04", 26, 30, 14}, Header{"PK\x01\x02", 28, 46, 16}}) {
+        for (qsizetype i = zip.indexOf(h.signature); i >= 0; i = zip.indexOf(h.signature, i + 4)) {
+            const int length = uchar(zip[i + h.nameLength]) | uchar(zip[i + h.nameLength + 1]) << 8;
+            if (zip.mid(i + h.name, length) == name)
+                zip[i + h.crc] = char(zip[i + h.crc] ^ 0x55);
+        }
+    }
+    return zip;
+}
+
+} // namespace
+
 class TestTableFiles : public QObject {
     Q_OBJECT
 
@@ -308,12 +330,18 @@ private slots:
                           {QStringLiteral("content.xml"), "<a><b></a>"}});
         QVERIFY2(ReadTableFile(badXml).error.startsWith(QStringLiteral("content.xml inside is damaged (XML error in line 1: ")),
                  qPrintable(ReadTableFile(badXml).error));
-        // A flipped byte inside the compressed sheet fails its checksum.
-        const qsizetype at = bytes.indexOf("xl/worksheets/sheet1.xml") + 40;
-        bytes[at] = char(bytes[at] ^ 0x55);
-        write(QStringLiteral("flip.xlsx"), bytes);
-        QVERIFY2(ReadTableFile(path(QStringLiteral("flip.xlsx"))).error.contains(QStringLiteral(" inside is damaged")),
+        // A flipped byte inside the compressed sheet does not inflate.
+        QByteArray flipped = bytes;
+        const qsizetype at = flipped.indexOf("xl/worksheets/sheet1.xml") + 40;
+        flipped[at] = char(flipped[at] ^ 0x55);
+        write(QStringLiteral("flip.xlsx"), flipped);
+        QVERIFY2(ReadTableFile(path(QStringLiteral("flip.xlsx"))).error.startsWith(
+                     QStringLiteral("xl/worksheets/sheet1.xml inside is damaged (zip error -")),
                  qPrintable(ReadTableFile(path(QStringLiteral("flip.xlsx"))).error));
+        // Bytes that inflate but are not the ones stored fail the checksum.
+        write(QStringLiteral("crc.xlsx"), withWrongChecksum(bytes, "xl/worksheets/sheet1.xml"));
+        QCOMPARE(ReadTableFile(path(QStringLiteral("crc.xlsx"))).error,
+                 QStringLiteral("xl/worksheets/sheet1.xml inside is damaged (zip error -105)"));
     }
 
     void anyBytesGetAnAnswer()
