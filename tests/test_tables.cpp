@@ -223,6 +223,25 @@ private slots:
         QVERIFY2(equalSets(set, *back.set, &where), qPrintable(where));
     }
 
+    // The sheets a host copies to start from are the sample set itself.
+    void samplesInTheDocsAreTheSampleSet_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("csv") << QStringLiteral("sample-questions.csv");
+        QTest::newRow("xlsx") << QStringLiteral("sample-questions.xlsx");
+    }
+
+    void samplesInTheDocsAreTheSampleSet()
+    {
+        QFETCH(QString, name);
+        const QuestionSet sample = LoadQuestionSet(programFile(QStringLiteral("General Knowledge.QZ2")));
+        const TableImport sheet =
+            ImportQuestionTable(QStringLiteral(QUIZZARR_DOCS "/") + name, sample.Description, sample.Timer);
+        QVERIFY2(sheet.set, qPrintable(sheet.error));
+        QString where;
+        QVERIFY2(equalSets(sample, *sheet.set, &where), qPrintable(where));
+    }
+
     void exportedFilesAreWhatSpreadsheetsOpen()
     {
         const QString csv = path(QStringLiteral("look.csv")), xlsx = path(QStringLiteral("look.xlsx"));
