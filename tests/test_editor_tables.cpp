@@ -99,6 +99,12 @@ private slots:
                  (QStringList{QStringLiteral("&Import Spreadsheet..."), QStringLiteral("E&xport Spreadsheet..."),
                               QStringLiteral("&Exit")}));
         QCOMPARE(editor_->mnuImportTable->text(), QStringLiteral("&Import Spreadsheet..."));
+        // At the editor's 640 pixels every command shows, none behind the
+        // menu bar's overflow button.
+        QCOMPARE(editor_->width(), 640);
+        const QMenuBar *bar = editor_->menuBar();
+        for (QAction *a : bar->actions())
+            QVERIFY2(bar->rect().contains(bar->actionGeometry(a)), qPrintable(a->text()));
     }
 
     void importAsksFirstThenReplacesTheSet()
