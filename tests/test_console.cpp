@@ -5,6 +5,7 @@
 
 #include "FakeClock.h"
 #include "FakeSoundControl.h"
+#include "RunMode.h"
 #include "ScriptedMsgBox.h"
 #include "TestFolder.h"
 #include "TestSets.h"
@@ -82,12 +83,6 @@ class TestConsole : public QObject {
         home_->cmdStart->click();
         QVERIFY(board());
     }
-    void compiled(bool on)
-    {
-        ModuleFileName::overridePath(on ? ModuleFileName::programFolder() + ModuleFileName::gameExecutableName()
-                                        : QString());
-        basDetectDevEnv::ForgetRunMode();
-    }
 
 private slots:
     void initTestCase()
@@ -125,7 +120,7 @@ private slots:
         SpecialFolders::overridePath(SpecialFolders::kDocuments, QString());
         documents_.reset();
         program_.reset();
-        compiled(false);
+        ForceGameMode(false);
     }
 
     void boardTakesTheProjectorAndTheConsoleTheHostsScreen()
@@ -270,7 +265,7 @@ private slots:
 
     void consoleCountsDownTheLockAndTheThinkMusic()
     {
-        compiled(true);
+        ForceGameMode(true);
         sound_->setClipLength(105, 30000);
         boxes_->answers = {MsgBoxResult::OK};
         startGame(0);

@@ -5,6 +5,7 @@
 
 #include "FakeClock.h"
 #include "FakeSoundControl.h"
+#include "RunMode.h"
 #include "ScriptedMsgBox.h"
 #include "TestFolder.h"
 #include "TestSets.h"
@@ -92,8 +93,7 @@ private slots:
         program.write(QStringLiteral("game.QZ2"), setText({"Rivers", "", "", "", "", ""}, {}, "Seas"));
         QTemporaryDir documents;
         SpecialFolders::overridePath(SpecialFolders::kDocuments, documents.path());
-        ModuleFileName::overridePath(ModuleFileName::programFolder() + ModuleFileName::gameExecutableName());
-        basDetectDevEnv::ForgetRunMode();
+        ForceGameMode(true);
         FakeClock clock;
         ScriptedMsgBox boxes;
         FakeSoundControl sound(libraries_);
@@ -130,8 +130,7 @@ private slots:
         QVERIFY(!QFile::exists(GameJournal::defaultPath()));
         home.reset();
         SpecialFolders::overridePath(SpecialFolders::kDocuments, QString());
-        ModuleFileName::overridePath(QString());
-        basDetectDevEnv::ForgetRunMode();
+        ForceGameMode(false);
     }
 };
 

@@ -1,5 +1,7 @@
 #include "TableFiles.h"
 
+#include "platform/ReadableFile.h"
+
 #include "TableFormats.h"
 
 #include <minizip/unzip.h>
@@ -15,18 +17,6 @@ namespace {
 // is not one, and is refused before it is held in memory.
 constexpr qint64 kTextFileLimit = 16 * 1024 * 1024;
 
-QString unreadable(const QString &path)
-{
-    const QFileInfo info(path);
-    if (!info.exists())
-        return QStringLiteral("no such file");
-    if (info.isDir())
-        return QStringLiteral("is a folder");
-    // Pipes and devices could block or never end.
-    if (!info.isFile())
-        return QStringLiteral("not an ordinary file");
-    return QString();
-}
 
 bool isTextName(const QString &suffix)
 {
@@ -97,7 +87,7 @@ TableFile TableBuilder::finish()
 
 TableFile ReadTableFile(const QString &path)
 {
-    const QString why = unreadable(path);
+    const QString why = UnreadableFile(path);
     if (!why.isEmpty())
         return {{}, why};
     QFile file(path);

@@ -3,6 +3,8 @@
 // is not playable, 2 bad arguments.
 #pragma once
 
+#include "platform/ReadableFile.h"
+
 #include <QStringList>
 #include <QTextStream>
 
@@ -12,5 +14,3 @@ int RunQz2(const QStringList &args, QTextStream &out, QTextStream &err);
 // one, offscreen, for this command alone).
 int sheet(const QStringList &args, QTextStream &out, QTextStream &err);
 
-// Why a file cannot be read, or an empty text when it can.
-QString UnreadableFile(const QString &path);
