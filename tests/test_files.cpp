@@ -445,6 +445,10 @@ private slots:
             << "marked";
         QTest::newRow("mark inside a section name")
             << mark + "[A]\r\nk=a\r\n[" + mark + "B]\r\nk=b\r\n" << "B" << "k" << "DEFAULT";
+        // Each byte that is no UTF-8 shows as a replacement character, at
+        // the value's end as anywhere else.
+        QTest::newRow("bytes that are no UTF-8 in a marked file")
+            << mark + "[A]\r\nk=\xe2\x82 \xe2\x82\r\n" << "A" << "k" << QStringLiteral("\ufffd\ufffd \ufffd\ufffd");
         QTest::newRow("mark in a file without one at its start")
             << "[A]\r\nk=" + mark + "v \xc3\xa9\r\n" << "A" << "k" << feff + QStringLiteral("v \u00e9");
     }

@@ -126,6 +126,10 @@ private slots:
         QTest::newRow("byte-order mark") << QByteArray("\xef\xbb\xbf[A]\r\nk=v\xc3\xa9\r\n") << "A" << "k" << "vé";
         QTest::newRow("invalid UTF-8 after the value: code page")
             << QByteArray("[A]\r\nk=\xc3\xa9\r\n[B]\r\nx=\xe9\r\n") << "A" << "k" << "Ã©";
+        // One verdict for the whole file, names included: here the 8-bit code
+        // page, though the names alone would pass for UTF-8.
+        QTest::newRow("names in the 8-bit code page")
+            << QByteArray("[\xc3\xa9]\r\n\xe2\x84\xaa=kelvin\r\nk=plain\r\n\xe9=e\r\n") << "\u00c3\u00a9" << "K" << "plain";
         QTest::newRow("empty file") << QByteArray() << "A" << "k" << "DEFAULT";
         QTest::newRow("NUL bytes") << QByteArray("[A]\r\nk=a\0b\r\n", 11) << "A" << "k" << QString::fromUtf8("a\0b", 3);
     }

@@ -30,26 +30,66 @@ bool isAscii(QByteArrayView v)
     return true;
 }
 
-// A byte-order mark inside a name or a value is a character of it: only the
-// one at the very start of the file tells the file's encoding.
-QString decodeUtf8(QByteArrayView bytes)
+// Whether the whole file reads as UTF-8: it starts with the byte-order
+// mark, or is valid UTF-8 with at least one multi-byte sequence.
+bool fileIsUtf8(const QString &fileName, bool startsWithMark)
 {
-    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
-    return decoder.decode(bytes);
+    if (startsWithMark)
+        return true;
+    QFile file(fileName);
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    Utf8::Validator v;
+    QByteArray chunk;
+    while (v.valid() && !(chunk = file.read(kChunkBytes)).isEmpty())
+        v.feed(chunk);
+    v.finish();
+    return v.valid() && v.sawMultiByte();
 }
 
-// Names are compared as text; a name with other than ASCII letters is read
-// as UTF-8 when it is valid UTF-8, else in the 8-bit code page.
-bool sameName(QByteArrayView bytes, const QString &name)
-{
-    if (isAscii(bytes))
-        return QLatin1StringView(bytes.data(), bytes.size()).compare(name, Qt::CaseInsensitive) == 0;
-    Utf8::Validator v;
-    v.feed(bytes);
-    v.finish();
-    const QString decoded = v.valid() ? decodeUtf8(bytes) : Windows1252::decode(bytes);
-    return decoded.compare(name, Qt::CaseInsensitive) == 0;
-}
+// The file's encoding, one verdict for every name and value in it. Only
+// bytes beyond ASCII need it, and only then is it judged, by streaming the
+// file once more, at most once per read.
+class FileEncoding {
+public:
+    explicit FileEncoding(const QString &fileName) : fileName_(fileName) {}
+
+    // Known once the file's first chunk has been read.
+    void setStartsWithMark(bool mark) { mark_ = mark; }
+
+    QString decode(QByteArrayView bytes)
+    {
+        if (isAscii(bytes))
+            return QLatin1StringView(bytes.data(), bytes.size()).toString();
+        if (!judged_) {
+            utf8_ = fileIsUtf8(fileName_, mark_);
+            judged_ = true;
+        }
+        if (!utf8_)
+            return Windows1252::decode(bytes);
+        // A byte-order mark inside a name or a value is a character of it:
+        // only the one at the very start of the file tells the encoding.
+        // Bytes that are no UTF-8 (in a file marked as UTF-8) each become a
+        // replacement character, at the end too: nothing is held back for
+        // bytes to come.
+        QStringDecoder decoder(QStringDecoder::Utf8,
+                               QStringDecoder::Flag::ConvertInitialBom | QStringDecoder::Flag::Stateless);
+        return decoder.decode(bytes);
+    }
+
+    bool sameName(QByteArrayView bytes, const QString &name)
+    {
+        if (isAscii(bytes))
+            return QLatin1StringView(bytes.data(), bytes.size()).compare(name, Qt::CaseInsensitive) == 0;
+        return decode(bytes).compare(name, Qt::CaseInsensitive) == 0;
+    }
+
+private:
+    const QString &fileName_;
+    bool mark_ = false;
+    bool judged_ = false;
+    bool utf8_ = false;
+};
 
 // One part of a line (a name or a value) as it streams past, without the
 // blanks around it, and no more of it than a limit. Blanks are kept back
@@ -128,7 +168,8 @@ private:
 // inside the wanted section; the value only of the wanted key.
 class LineScan {
 public:
-    LineScan(const QString &section, const QString &key) : section_(section), key_(key)
+    LineScan(const QString &section, const QString &key, FileEncoding &encoding)
+        : section_(section), key_(key), encoding_(encoding)
     {
         nameLimit_ = qMax(kKeptBytes, 4 * qMax(section.size(), key.size()));
     }
@@ -166,7 +207,7 @@ public:
             if (equals < 0)
                 return;
             equals_ = true;
-            keyMatches_ = !keyName_.cut() && sameName(keyName_.bytes(), key_);
+            keyMatches_ = !keyName_.cut() && encoding_.sameName(keyName_.bytes(), key_);
             value_.reset(kKeptBytes);
             part = part.sliced(equals + 1);
         }
@@ -175,7 +216,7 @@ public:
     }
 
     bool isSectionLine() const { return bracket_ && closed_; }
-    bool sectionMatches() const { return !name_.cut() && sameName(name_.bytes(), section_); }
+    bool sectionMatches() const { return !name_.cut() && encoding_.sameName(name_.bytes(), section_); }
     bool isWantedKey() const { return inSection_ && keyMatches_ && !isSectionLine(); }
     const Field &value() const { return value_; }
 
@@ -191,6 +232,7 @@ private:
 
     const QString &section_;
     const QString &key_;
+    FileEncoding &encoding_;
     qsizetype nameLimit_ = kKeptBytes;
     bool inSection_ = false;
     bool begun_ = false, bracket_ = false, closed_ = false, equals_ = false, keyMatches_ = false;
@@ -254,24 +296,6 @@ private:
     bool lineOpen_ = false;
 };
 
-// Whether the whole file reads as UTF-8: it starts with the byte-order
-// mark, or is valid UTF-8 with at least one multi-byte sequence. Streams
-// the file once more; needed only for values beyond ASCII.
-bool fileIsUtf8(const QString &fileName, bool startsWithMark)
-{
-    if (startsWithMark)
-        return true;
-    QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly))
-        return false;
-    Utf8::Validator v;
-    QByteArray chunk;
-    while (v.valid() && !(chunk = file.read(kChunkBytes)).isEmpty())
-        v.feed(chunk);
-    v.finish();
-    return v.valid() && v.sawMultiByte();
-}
-
 QString cutToLimit(QString value)
 {
     if (value.size() <= kProfileValueMax)
@@ -283,7 +307,7 @@ QString cutToLimit(QString value)
     return value;
 }
 
-QString valueOf(const Field &field, const LineReader &reader, const QString &fileName)
+QString valueOf(const Field &field, FileEncoding &encoding)
 {
     QByteArrayView value = field.bytes();
     // One pair of enclosing quotation marks goes; past the limit, the
@@ -291,10 +315,7 @@ QString valueOf(const Field &field, const LineReader &reader, const QString &fil
     if (!value.isEmpty() && (value.front() == '"' || value.front() == '\'') && field.last() == value.front() &&
         (field.cut() || value.size() >= 2))
         value = field.cut() ? value.sliced(1) : value.sliced(1, value.size() - 2);
-    if (isAscii(value))
-        return cutToLimit(Windows1252::decode(value));
-    const bool utf8 = fileIsUtf8(fileName, reader.startsWithByteOrderMark());
-    return cutToLimit(utf8 ? decodeUtf8(value) : Windows1252::decode(value));
+    return cutToLimit(encoding.decode(value));
 }
 
 } // namespace
@@ -309,12 +330,14 @@ QString GetPrivateProfileString(const QString &section, const QString &key, cons
     LineReader reader(fileName);
     if (!reader.open())
         return fallback;
-    LineScan line(section, key);
+    FileEncoding encoding(fileName);
+    LineScan line(section, key, encoding);
     bool inSection = false;
     line.start(inSection);
     QByteArrayView part;
     bool lineEnds = false;
     while (reader.next(part, lineEnds)) {
+        encoding.setStartsWithMark(reader.startsWithByteOrderMark());
         line.feed(part);
         if (!lineEnds)
             continue;
@@ -323,7 +346,7 @@ QString GetPrivateProfileString(const QString &section, const QString &key, cons
                 return fallback; // the section ended without the key
             inSection = line.sectionMatches();
         } else if (line.isWantedKey()) {
-            return valueOf(line.value(), reader, fileName);
+            return valueOf(line.value(), encoding);
         }
         line.start(inSection);
     }
