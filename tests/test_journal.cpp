@@ -317,6 +317,7 @@ private:
         QTest::newRow("eleven teams") << changed("\"teams\": 2", "\"teams\": 11");
         QTest::newRow("a tile that is no value") << changed("\"$100\"", "\"hello\"");
         QTest::newRow("a score that is no whole number") << changed("\"scores\": [\n        0", "\"scores\": [\n        0.5");
+        QTest::newRow("a score beyond any whole number") << changed("\"scores\": [\n        0", "\"scores\": [\n        1e300");
         QTest::newRow("no set") << changed("\"/nowhere/game.QZ2\"", "\"\"");
         QTest::newRow("a huge file") << QByteArray(2 << 20, ' ');
     }

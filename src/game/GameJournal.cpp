@@ -14,6 +14,8 @@
 #include <QJsonObject>
 #include <QStandardPaths>
 
+#include <cmath>
+
 namespace {
 
 const QString kFormat = QStringLiteral("quizzarr-journal");
@@ -51,8 +53,9 @@ std::optional<qint64> number(const QJsonValue &v, qint64 low, qint64 high)
 {
     if (!v.isDouble())
         return std::nullopt;
+    // In range first: converting a number like 1e300 would be undefined.
     const double d = v.toDouble();
-    if (d != double(qint64(d)) || d < double(low) || d > double(high))
+    if (!std::isfinite(d) || d < double(low) || d > double(high) || d != std::floor(d))
         return std::nullopt;
     return qint64(d);
 }
