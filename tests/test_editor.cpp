@@ -1,6 +1,7 @@
 // The question editor: editor flows with scripted dialogs and message
 // boxes, its lists and fields, and the exact bytes the editor writes.
 
+#include "EditorFixture.h"
 #include "ScriptedFileDialog.h"
 #include "ScriptedMsgBox.h"
 
@@ -21,30 +22,11 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-class TestEditor : public QObject {
+class TestEditor : public QObject, EditorFixture {
     Q_OBJECT
 
-    std::unique_ptr<QTemporaryDir> dir_;
-    std::unique_ptr<ScriptedMsgBox> boxes_;
-    std::unique_ptr<ScriptedFileDialog> dialogs_;
-    QPointer<frmEditor> editor_;
 
-    QString path(const QString &name) const { return dir_->filePath(name); }
 
-    QByteArray read(const QString &file) const
-    {
-        QFile f(file);
-        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-    }
-
-    frmEditor *open(const QString &fileToLoad = QString())
-    {
-        editor_ = new frmEditor;
-        editor_->setAttribute(Qt::WA_DeleteOnClose, false);
-        editor_->FileToLoad = fileToLoad;
-        editor_->show();
-        return editor_;
-    }
 
     // What a host types replaces the field's text.
     void type(QLineEdit *field, const QString &text)
@@ -79,23 +61,8 @@ class TestEditor : public QObject {
 private slots:
     void initTestCase() { QFont::insertSubstitution(QStringLiteral("Arial"), QStringLiteral("Liberation Sans")); }
 
-    void init()
-    {
-        dir_ = std::make_unique<QTemporaryDir>();
-        SpecialFolders::overridePath(SpecialFolders::kDocuments, path(QStringLiteral("Documents")));
-        QDir().mkpath(path(QStringLiteral("Documents")));
-        boxes_ = std::make_unique<ScriptedMsgBox>();
-        dialogs_ = std::make_unique<ScriptedFileDialog>();
-    }
-
-    void cleanup()
-    {
-        delete editor_.data();
-        dialogs_.reset();
-        boxes_.reset();
-        SpecialFolders::overridePath(SpecialFolders::kDocuments, QString());
-        dir_.reset();
-    }
+    void init() { setUp(); }
+    void cleanup() { tearDown(); }
 
     // ------------------------------------------------------------- the editor
 

@@ -2,6 +2,7 @@
 // question every command asks about unsaved work), exporting writes the set
 // shown, and every fault reaches the host in a message box.
 
+#include "EditorFixture.h"
 #include "ScriptedFileDialog.h"
 #include "ScriptedMsgBox.h"
 #include "TestSets.h"
@@ -39,23 +40,10 @@ QByteArray tableText(const QString &firstClue = QStringLiteral("c00"))
 
 } // namespace
 
-class TestEditorTables : public QObject {
+class TestEditorTables : public QObject, EditorFixture {
     Q_OBJECT
 
-    std::unique_ptr<QTemporaryDir> dir_;
-    std::unique_ptr<ScriptedMsgBox> boxes_;
-    std::unique_ptr<ScriptedFileDialog> dialogs_;
-    QPointer<frmEditor> editor_;
 
-    QString path(const QString &name) const { return dir_->filePath(name); }
-
-    void open(const QString &fileToLoad = QString())
-    {
-        editor_ = new frmEditor;
-        editor_->setAttribute(Qt::WA_DeleteOnClose, false);
-        editor_->FileToLoad = fileToLoad;
-        editor_->show();
-    }
 
     QString sampleSet()
     {
@@ -71,23 +59,8 @@ class TestEditorTables : public QObject {
 private slots:
     void initTestCase() { QFont::insertSubstitution(QStringLiteral("Arial"), QStringLiteral("Liberation Sans")); }
 
-    void init()
-    {
-        dir_ = std::make_unique<QTemporaryDir>();
-        SpecialFolders::overridePath(SpecialFolders::kDocuments, path(QStringLiteral("Documents")));
-        QDir().mkpath(path(QStringLiteral("Documents")));
-        boxes_ = std::make_unique<ScriptedMsgBox>();
-        dialogs_ = std::make_unique<ScriptedFileDialog>();
-    }
-
-    void cleanup()
-    {
-        delete editor_.data();
-        dialogs_.reset();
-        boxes_.reset();
-        SpecialFolders::overridePath(SpecialFolders::kDocuments, QString());
-        dir_.reset();
-    }
+    void init() { setUp(); }
+    void cleanup() { tearDown(); }
 
     void menuOffersSpreadsheetsBeforeExit()
     {
