@@ -15,6 +15,7 @@ public:
     using frmMain::lblValue;
     using frmMain::PrepareTeamLabels;
     using frmMain::RotateTV;
+    using frmMain::showOnScreen;
     using frmMain::tmrQuestion;
     using frmMain::Unload;
     using frmMain::vseCategories;

@@ -4,6 +4,7 @@
 #include "FakeClock.h"
 #include "FakeSoundControl.h"
 #include "ScriptedMsgBox.h"
+#include "TestSets.h"
 
 #include "board/AnimationGeometry.h"
 #include "ui/controls/Backdrop.h"
@@ -402,6 +403,65 @@ private slots:
         QCOMPARE(board->vseTV->geometry(), QRect(0, 0, 1280, 720));
         const QRect firstTile(board->vseQuestion[0]->mapTo(board.get(), QPoint(0, 0)), board->vseQuestion[0]->size());
         QVERIFY(board->boardArea().contains(firstTile));
+    }
+
+    void pictureCluesTakeTheLargerArrangement_data()
+    {
+        QTest::addColumn<QSizeF>("screen");
+        QTest::addColumn<QSizeF>("picture");
+        QTest::addColumn<bool>("beside");
+        QTest::newRow("a flag on a wide screen: beside") << QSizeF(1280, 720) << QSizeF(300, 200) << true;
+        QTest::newRow("a flag on a 4:3 screen: under") << QSizeF(1024, 768) << QSizeF(300, 200) << false;
+        QTest::newRow("a tall portrait: beside") << QSizeF(1024, 768) << QSizeF(200, 400) << true;
+        QTest::newRow("a panorama: under") << QSizeF(3840, 2160) << QSizeF(1000, 200) << false;
+    }
+    void pictureCluesTakeTheLargerArrangement()
+    {
+        QFETCH(QSizeF, screen);
+        QFETCH(QSizeF, picture);
+        QFETCH(bool, beside);
+        const PictureClueLayout l = LayOutPictureClue(screen, picture, true);
+        const QRectF whole(QPointF(0, 0), screen);
+        QVERIFY(whole.contains(l.picture) && whole.contains(l.text));
+        QVERIFY(!l.picture.intersects(l.text));
+        QCOMPARE(l.text.left() > l.picture.right(), beside);
+        QCOMPARE(l.text.top() > l.picture.bottom(), !beside);
+        QVERIFY(l.picture.top() >= 0.12 * screen.height()); // clear of the category and value
+        // Without text the picture has all the room there is.
+        const PictureClueLayout alone = LayOutPictureClue(screen, picture, false);
+        QVERIFY(alone.text.isEmpty());
+        QVERIFY(alone.picture.contains(l.picture));
+    }
+
+    void answerScreenShowsAPictureOrTheTextAlone()
+    {
+        std::unique_ptr<BoardUnderTest> board(newBoard(QSize(1280, 720)));
+        board->show();
+        QTemporaryDir dir;
+        QImage flag(300, 200, QImage::Format_RGB32);
+        flag.fill(Qt::red);
+        const QString png = dir.filePath(QStringLiteral("flag.png"));
+        QVERIFY(flag.save(png));
+        board->vseTV->setGeometry(0, 0, 1280, 720); // as a zoom leaves it
+        board->vseTV->show();
+        board->showOnScreen(QStringLiteral("Whose flag is this?"), png);
+        QCOMPARE(board->vseTV->inset().size(), QSize(300, 200));
+        QVERIFY(board->vseTV->caption().contains(QStringLiteral("flag")));
+        const QImage drawn = board->vseTV->grab().toImage();
+        const PictureClueLayout l = LayOutPictureClue(QSizeF(1280, 720), QSizeF(300, 200), true);
+        QCOMPARE(drawn.pixelColor(l.picture.center().toPoint()), QColor(Qt::red));
+        // Missing or unreadable: the text alone, and nothing to say about it.
+        ScriptedMsgBox boxes;
+        writeFile(dir.filePath(QStringLiteral("broken.png")), "not a picture");
+        for (const QString &bad : {dir.filePath(QStringLiteral("gone.png")), dir.filePath(QStringLiteral("broken.png"))}) {
+            board->showOnScreen(QStringLiteral("Whose flag is this?"), bad);
+            QVERIFY(board->vseTV->inset().isNull());
+        }
+        QVERIFY(boxes.shown.isEmpty());
+        // A response never keeps the clue's picture.
+        board->showOnScreen(QStringLiteral("What is Japan?"), png);
+        board->showOnScreen(QStringLiteral("What is Japan?"));
+        QVERIFY(board->vseTV->inset().isNull());
     }
 
     void flipFoldsAndUnfoldsOverTheWholeBoard()

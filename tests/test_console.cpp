@@ -5,11 +5,13 @@
 
 #include "FakeClock.h"
 #include "FakeSoundControl.h"
+#include "RunMode.h"
 #include "ScriptedMsgBox.h"
 #include "TestFolder.h"
 #include "TestSets.h"
 
 #include "game/GameRules.h"
+#include "game/GameJournal.h"
 #include "game/GameState.h"
 #include "platform/ModuleFileName.h"
 #include "platform/SpecialFolders.h"
@@ -81,12 +83,6 @@ class TestConsole : public QObject {
         home_->cmdStart->click();
         QVERIFY(board());
     }
-    void compiled(bool on)
-    {
-        ModuleFileName::overridePath(on ? ModuleFileName::programFolder() + ModuleFileName::gameExecutableName()
-                                        : QString());
-        basDetectDevEnv::ForgetRunMode();
-    }
 
 private slots:
     void initTestCase()
@@ -97,6 +93,7 @@ private slots:
 
     void init()
     {
+        QFile::remove(GameJournal::defaultPath()); // no game left from another test
         state_ = GameState{};
         program_ = std::make_unique<TestFolder>();
         program_->write(QStringLiteral("game.QZ2"),
@@ -123,7 +120,7 @@ private slots:
         SpecialFolders::overridePath(SpecialFolders::kDocuments, QString());
         documents_.reset();
         program_.reset();
-        compiled(false);
+        ForceGameMode(false);
     }
 
     void boardTakesTheProjectorAndTheConsoleTheHostsScreen()
@@ -268,7 +265,7 @@ private slots:
 
     void consoleCountsDownTheLockAndTheThinkMusic()
     {
-        compiled(true);
+        ForceGameMode(true);
         sound_->setClipLength(105, 30000);
         boxes_->answers = {MsgBoxResult::OK};
         startGame(0);

@@ -1,6 +1,7 @@
 // The question editor: editor flows with scripted dialogs and message
 // boxes, its lists and fields, and the exact bytes the editor writes.
 
+#include "EditorFixture.h"
 #include "ScriptedFileDialog.h"
 #include "ScriptedMsgBox.h"
 
@@ -13,35 +14,19 @@
 
 #include <QAbstractItemView>
 #include <QComboBox>
+#include <QToolButton>
+#include <QImage>
+#include <QDir>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QtTest>
 
-class TestEditor : public QObject {
+class TestEditor : public QObject, EditorFixture {
     Q_OBJECT
 
-    std::unique_ptr<QTemporaryDir> dir_;
-    std::unique_ptr<ScriptedMsgBox> boxes_;
-    std::unique_ptr<ScriptedFileDialog> dialogs_;
-    QPointer<frmEditor> editor_;
 
-    QString path(const QString &name) const { return dir_->filePath(name); }
 
-    QByteArray read(const QString &file) const
-    {
-        QFile f(file);
-        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-    }
-
-    frmEditor *open(const QString &fileToLoad = QString())
-    {
-        editor_ = new frmEditor;
-        editor_->setAttribute(Qt::WA_DeleteOnClose, false);
-        editor_->FileToLoad = fileToLoad;
-        editor_->show();
-        return editor_;
-    }
 
     // What a host types replaces the field's text.
     void type(QLineEdit *field, const QString &text)
@@ -76,23 +61,8 @@ class TestEditor : public QObject {
 private slots:
     void initTestCase() { QFont::insertSubstitution(QStringLiteral("Arial"), QStringLiteral("Liberation Sans")); }
 
-    void init()
-    {
-        dir_ = std::make_unique<QTemporaryDir>();
-        SpecialFolders::overridePath(SpecialFolders::kDocuments, path(QStringLiteral("Documents")));
-        QDir().mkpath(path(QStringLiteral("Documents")));
-        boxes_ = std::make_unique<ScriptedMsgBox>();
-        dialogs_ = std::make_unique<ScriptedFileDialog>();
-    }
-
-    void cleanup()
-    {
-        delete editor_.data();
-        dialogs_.reset();
-        boxes_.reset();
-        SpecialFolders::overridePath(SpecialFolders::kDocuments, QString());
-        dir_.reset();
-    }
+    void init() { setUp(); }
+    void cleanup() { tearDown(); }
 
     // ------------------------------------------------------------- the editor
 
@@ -300,6 +270,49 @@ private slots:
         dialogs_->choose(path(QStringLiteral("Short")));
         editor_->mnuSave->trigger(); // a menu command takes no focus
         QVERIFY(read(path(QStringLiteral("Short.QZ2"))).contains("\r\nTimer=3\r\n"));
+    }
+
+    void cluesTakeAPictureChosenBesideTheSet()
+    {
+        QuestionSet set;
+        set.Description = QStringLiteral("With pictures");
+        QVERIFY(!WriteQuestionSet(set, path(QStringLiteral("Pics.QZ2"))));
+        QDir(path(QString())).mkpath(QStringLiteral("art"));
+        QImage flag(30, 20, QImage::Format_RGB32);
+        flag.fill(Qt::blue);
+        QVERIFY(flag.save(path(QStringLiteral("art/flag.png"))));
+        open(path(QStringLiteral("Pics.QZ2")));
+        QVERIFY(editor_->cmdPicture[2]->icon().isNull());
+        dialogs_->choose(path(QStringLiteral("art/flag.png")));
+        editor_->cmdPicture[2]->click();
+        QCOMPARE(dialogs_->requests.last().flags & 0x1000u, 0x1000u); // the file must exist
+        QCOMPARE(editor_->questionSet.Categories[0][0].Picture[2], QStringLiteral("art/flag.png")); // relative to the set
+        QVERIFY(!editor_->cmdPicture[2]->icon().isNull()); // its thumbnail
+        QCOMPARE(editor_->Modified, QStringLiteral("X"));
+        editor_->optCategory[1]->click();
+        QVERIFY(editor_->cmdPicture[2]->icon().isNull()); // another category, its own pictures
+        editor_->optCategory[0]->click();
+        dialogs_->choose(path(QStringLiteral("Pics")));
+        editor_->mnuSave->trigger();
+        QVERIFY(read(path(QStringLiteral("Pics.QZ2"))).contains("\r\nPicture2=art/flag.png\r\n"));
+        editor_->mnuRemovePicture[2]->trigger();
+        QCOMPARE(editor_->questionSet.Categories[0][0].Picture[2], QString());
+        QVERIFY(editor_->cmdPicture[2]->icon().isNull());
+        QCOMPARE(editor_->Modified, QStringLiteral("X"));
+    }
+
+    void printsTheHostSheetOfTheSetAsItStands()
+    {
+        open();
+        type(editor_->txtDesc, QStringLiteral("Sheet test"));
+        dialogs_->choose(path(QStringLiteral("sheet.pdf")));
+        editor_->mnuPrintSheet->trigger();
+        const FileDialogRequest &r = dialogs_->requests.last();
+        QVERIFY(r.save);
+        QCOMPARE(r.title, QStringLiteral("Print Host Sheet"));
+        QCOMPARE(r.defaultExtension, QStringLiteral("pdf"));
+        QVERIFY(read(path(QStringLiteral("sheet.pdf"))).startsWith("%PDF"));
+        QVERIFY(!editor_->Modified.isEmpty()); // printing is not saving
     }
 
     void writesExactlyWhatWasTyped()

@@ -6,6 +6,7 @@
 #include "BoardUnderTest.h"
 #include "FakeClock.h"
 #include "FakeSoundControl.h"
+#include "RunMode.h"
 #include "ScriptedMsgBox.h"
 #include "TestSets.h"
 
@@ -91,8 +92,7 @@ private slots:
         boxes_ = std::make_unique<ScriptedMsgBox>();
         sound_ = std::make_unique<FakeSoundControl>(libraries_);
         clock_->onAdvance = [this](int ms) { sound_->advance(ms); };
-        ModuleFileName::overridePath(ModuleFileName::programFolder() + ModuleFileName::gameExecutableName());
-        basDetectDevEnv::ForgetRunMode();
+        ForceGameMode(true);
     }
 
     void cleanup()
@@ -102,8 +102,7 @@ private slots:
         sound_.reset();
         boxes_.reset();
         clock_.reset();
-        ModuleFileName::overridePath(QString());
-        basDetectDevEnv::ForgetRunMode();
+        ForceGameMode(false);
     }
 
     void wholeGameThroughPressesAndKeys()

@@ -6,9 +6,13 @@
 #include "platform/GetPrivateProfileString.h"
 #include "platform/Windows1252.h"
 #include "questions/GameReads.h"
+#include "questions/HostSheet.h"
 #include "questions/QuestionSet.h"
 
 #include <QDir>
+#include <QImage>
+#include <QJsonObject>
+#include <QJsonArray>
 #include <QProcess>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
@@ -439,6 +443,34 @@ private slots:
                                  "\"final\": {\"title\": \"F\", \"answer\": \"fa\", \"question\": \"fq\"}}\n"));
         const QJsonDocument doc = QJsonDocument::fromJson(out);
         QVERIFY(doc.isObject());
+    }
+
+    void qz2PrintsTheHostSheet()
+    {
+        QuestionSet set = distinctSet();
+        set.Categories[1][5].Answer[4] = QStringLiteral("Fish & <chips>");
+        QVERIFY(!WriteQuestionSet(set, dir_.filePath(QStringLiteral("sheet.QZ2"))));
+        const QString pdf = dir_.filePath(QStringLiteral("sheet.pdf"));
+        QByteArray out;
+        QCOMPARE(runQz2({QStringLiteral("sheet"), dir_.filePath(QStringLiteral("sheet.QZ2")), pdf}, &out), 0);
+        QVERIFY(read(pdf).startsWith("%PDF"));
+        // The PDF's own text, page by page, as poppler reads it.
+        auto pages = [&](int first, int last) {
+            QProcess p;
+            p.start(QStringLiteral("pdftotext"), {QStringLiteral("-f"), QString::number(first), QStringLiteral("-l"),
+                                                  QString::number(last), pdf, QStringLiteral("-")});
+            p.waitForFinished(20000);
+            return QString::fromUtf8(p.readAllStandardOutput()).simplified();
+        };
+        const QString all = pages(1, 99);
+        for (const QString &text : {set.Description, QStringLiteral("Round 1"), QStringLiteral("Round 2"), QStringLiteral("Final"),
+                                    QStringLiteral("R0C0 title"), QStringLiteral("clue 0.0.0 = yes"), QStringLiteral("What is 1.5.4?"),
+                                    QStringLiteral("$1000"), QStringLiteral("Fish & <chips>"), QStringLiteral("R2C0 title")})
+            QVERIFY2(all.contains(text), qPrintable(text));
+        QVERIFY(!pages(1, 1).contains(QStringLiteral("Round 2"))); // each round from a new page
+        QCOMPARE(HostSheetPaper(QLocale(QLocale::English, QLocale::UnitedStates)), QPageSize::Letter);
+        QCOMPARE(HostSheetPaper(QLocale(QLocale::German, QLocale::Germany)), QPageSize::A4);
+        QCOMPARE(runQz2({QStringLiteral("sheet"), dir_.filePath(QStringLiteral("absent.QZ2")), pdf}, &out), 1);
     }
 
     void qz2ConvertsALegacyFile()

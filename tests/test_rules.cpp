@@ -6,6 +6,7 @@
 #include "FakeClock.h"
 #include "FakeSoundControl.h"
 #include "RecordingBoardView.h"
+#include "RunMode.h"
 #include "ScriptedMsgBox.h"
 #include "TestSets.h"
 
@@ -36,12 +37,6 @@ class TestRules : public QObject {
     std::unique_ptr<RecordingBoardView> view_;
     std::unique_ptr<BoardGame> game_;
 
-    void compiled(bool on)
-    {
-        ModuleFileName::overridePath(on ? ModuleFileName::programFolder() + ModuleFileName::gameExecutableName()
-                                        : QString());
-        basDetectDevEnv::ForgetRunMode();
-    }
 
     // Starts a game as the board does, after the home screen's checks (the
     // board's load has started the sound library).
@@ -104,7 +99,7 @@ private slots:
         boxes_ = std::make_unique<ScriptedMsgBox>();
         sound_ = std::make_unique<FakeSoundControl>(libraries_);
         clock_->onAdvance = [this](int ms) { sound_->advance(ms); };
-        compiled(true);
+        ForceGameMode(true);
     }
 
     void cleanup()
@@ -114,7 +109,7 @@ private slots:
         sound_.reset();
         boxes_.reset();
         clock_.reset();
-        compiled(false);
+        ForceGameMode(false);
     }
 
     void wholeGameWithoutScoring()
@@ -248,9 +243,10 @@ private slots:
         clock_->advance(1000);
         game_->AnswerScreenPress();
         QCOMPARE(view_->screenText, QStringLiteral("r1c1q%1").arg(tile / 6));
+        QCOMPARE(view_->screenPicture, QString()); // a response never shows the clue's picture
         QVERIFY(!view_->timerActive);
         // Outside the game's own executable there is no lock.
-        compiled(false);
+        ForceGameMode(false);
         game_->AnswerScreenPress();
         QVERIFY(!view_->screenShown);
     }

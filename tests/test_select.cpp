@@ -9,6 +9,7 @@
 #include "TestFolder.h"
 
 #include "ui/controls/ShadowLabel.h"
+#include "game/GameJournal.h"
 #include "game/GameState.h"
 #include "ui/board/frmMain.h"
 #include "help/HelpTexts.h"
@@ -103,6 +104,7 @@ private slots:
 
     void init()
     {
+        QFile::remove(GameJournal::defaultPath()); // no game left from another test
         program_ = std::make_unique<TestFolder>();
         documents_ = std::make_unique<QTemporaryDir>();
         SpecialFolders::overridePath(SpecialFolders::kDocuments, documents_->path());

@@ -3,9 +3,11 @@
 
 #include "FakeClock.h"
 #include "FakeSoundControl.h"
+#include "RunMode.h"
 #include "ScriptedMsgBox.h"
 #include "TestFolder.h"
 
+#include "game/GameJournal.h"
 #include "game/GameState.h"
 #include "platform/ModuleFileName.h"
 #include "platform/PictureBox.h"
@@ -27,13 +29,6 @@ namespace {
 constexpr const char *kSoundOperations[] = {"PLOV_InitSound",      "PLOV_LoadSound",   "PLOV_PlaySound",
                                             "PLOV_GetSoundStatus", "PLOV_UnloadSound", "PLOV_Shutdown"};
 
-// Makes the game believe it runs as its own executable (or not).
-void forceRunningCompiled(bool compiled)
-{
-    ModuleFileName::overridePath(compiled ? ModuleFileName::programFolder() + ModuleFileName::gameExecutableName()
-                                          : QString());
-    basDetectDevEnv::ForgetRunMode();
-}
 
 QWidget *visibleWindowTitled(const QString &title)
 {
@@ -55,6 +50,7 @@ class TestShell : public QObject {
 private slots:
     void cleanup()
     {
+        QFile::remove(GameJournal::defaultPath()); // no game left for the next test
         ModuleFileName::declareGameExecutable(false);
         ModuleFileName::overridePath(QString());
         ModuleFileName::overrideProgramFolder(QString());
@@ -277,7 +273,7 @@ private slots:
     {
         FakeSoundControl fake(libraries_);
         FakeClock clock;
-        forceRunningCompiled(true);
+        ForceGameMode(true);
         libraries_.hSoundLib->InitSound(0);
 
         libraries_.PlayGameSound(101, false);
@@ -295,7 +291,7 @@ private slots:
         FakeSoundControl fake(libraries_);
         FakeClock clock;
         clock.onAdvance = [&](int ms) { fake.advance(ms); };
-        forceRunningCompiled(true);
+        ForceGameMode(true);
         libraries_.hSoundLib->InitSound(0);
         fake.setClipLength(102, 3000);
 
@@ -321,7 +317,7 @@ private slots:
         FakeSoundControl fake(libraries_);
         FakeClock clock;
         clock.onAdvance = [&](int ms) { fake.advance(ms); };
-        forceRunningCompiled(true);
+        ForceGameMode(true);
         libraries_.hSoundLib->InitSound(0);
         fake.setClipLength(105, 30000);
         fake.setClipLength(101, 5000);
@@ -338,13 +334,13 @@ private slots:
     {
         {
             FakeSoundControl fake(libraries_);
-            forceRunningCompiled(false);
+            ForceGameMode(false);
             libraries_.hSoundLib->InitSound(0);
             fake.reset();
             libraries_.PlayGameSound(101, true);
             QVERIFY(fake.calls().isEmpty());
         }
-        forceRunningCompiled(true);
+        ForceGameMode(true);
         QVERIFY(!libraries_.hSoundLib);
         libraries_.PlayGameSound(101, true); // nothing to call, nothing to crash
         QCOMPARE(libraries_.hCurrentSound, 0);
@@ -354,7 +350,7 @@ private slots:
     {
         FakeSoundControl fake(libraries_);
         FakeClock clock;
-        forceRunningCompiled(true);
+        ForceGameMode(true);
         libraries_.hSoundLib->InitSound(0);
         libraries_.PlayGameSound(103, false);
         fake.setLoadFails(108, true);
@@ -367,7 +363,7 @@ private slots:
     void shutdownForgetsTheCurrentClip()
     {
         FakeSoundControl fake(libraries_);
-        forceRunningCompiled(true);
+        ForceGameMode(true);
         libraries_.hSoundLib->InitSound(0);
         libraries_.PlayGameSound(106, false);
         QVERIFY(libraries_.hCurrentSound != 0);

@@ -44,3 +44,28 @@ std::array<QRectF, 9> UnfoldRects(QSizeF board)
     }
     return rects;
 }
+
+PictureClueLayout LayOutPictureClue(QSizeF screen, QSizeF picture, bool withText)
+{
+    // Clear of the category and value above, the teams down the left and
+    // the screen's edges.
+    const QRectF free(0.12 * screen.width(), 0.13 * screen.height(), 0.82 * screen.width(), 0.82 * screen.height());
+    if (!withText || picture.isEmpty())
+        return {free, {}};
+    constexpr qreal kPictureShare = 0.6;
+    constexpr qreal kGap = 0.03;
+    const qreal gapX = kGap * free.width(), gapY = kGap * free.height();
+    const QRectF besidePicture(free.topLeft(), QSizeF(kPictureShare * free.width(), free.height()));
+    const QRectF besideText(besidePicture.right() + gapX, free.top(), free.right() - besidePicture.right() - gapX,
+                            free.height());
+    const QRectF underPicture(free.topLeft(), QSizeF(free.width(), kPictureShare * free.height()));
+    const QRectF underText(free.left(), underPicture.bottom() + gapY, free.width(),
+                           free.bottom() - underPicture.bottom() - gapY);
+    auto shownArea = [&](const QRectF &box) {
+        const QSizeF shown = picture.scaled(box.size(), Qt::KeepAspectRatio);
+        return shown.width() * shown.height();
+    };
+    if (shownArea(besidePicture) >= shownArea(underPicture))
+        return {besidePicture, besideText};
+    return {underPicture, underText};
+}

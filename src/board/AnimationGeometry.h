@@ -17,3 +17,13 @@ std::array<QRectF, 9> FoldRects(QSizeF board, qreal width);
 
 // Unfold: widths W sin(a/2) for a = 20, 40, ..., 180, centred across.
 std::array<QRectF, 9> UnfoldRects(QSizeF board);
+
+// A clue with a picture on the answer screen: where the picture and the
+// clue's text go. The picture takes the larger of two arrangements, text
+// beside it or under it, keeping clear of the category and value at the
+// top; without text it has the whole screen to itself.
+struct PictureClueLayout {
+    QRectF picture;
+    QRectF text; // empty without text
+};
+PictureClueLayout LayOutPictureClue(QSizeF screen, QSizeF picture, bool withText);

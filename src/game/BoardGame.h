@@ -16,6 +16,7 @@
 #include <vector>
 
 struct GameState;
+struct JournalRecord;
 class Libraries;
 
 struct BoardState {
@@ -53,6 +54,11 @@ public:
     // The start of a game on a board that shows: the start sound (played
     // to its end), then round 1.
     void start();
+
+    // Puts a game back as its journal recorded it, on a board that shows:
+    // the round, the tiles out of play, the daily doubles, teams, names,
+    // scores and their history. A final starts again from its picture.
+    void resume(const JournalRecord &record);
 
     // Sets up the round named by Round (skipping absent or empty rounds),
     // or ends the game past the final.

@@ -192,7 +192,8 @@ void BoardGame::closeScreen()
 
 void BoardGame::ShowAnswer(int index)
 {
-    view_.showOnScreen(GameReads::Clue(settings_.QuestionFile, settings_.Round, index));
+    view_.showOnScreen(GameReads::Clue(settings_.QuestionFile, settings_.Round, index),
+                       GameReads::CluePicture(settings_.QuestionFile, settings_.Round, index));
     if (index >= 0)
         view_.startAnswerTimer();
     else

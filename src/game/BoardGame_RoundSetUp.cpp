@@ -2,6 +2,7 @@
 
 #include "BoardGame.h"
 
+#include "GameJournal.h"
 #include "GameRules.h"
 #include "GameState.h"
 #include "platform/Clock.h"
@@ -33,6 +34,43 @@ void BoardGame::start()
         return;
     settings_.Round = 1;
     SetUpRound();
+}
+
+void BoardGame::resume(const JournalRecord &r)
+{
+    started_ = true;
+    state_.Teams = qint16(qBound(0, int(r.teams), 10));
+    state_.scoreHistory = r.history;
+    settings_.Scores = r.scores;
+    settings_.TeamNames = r.names;
+    emit teamsChanged();
+    for (int team = 0; team < state_.Teams; ++team)
+        emit scoreChanged(team);
+    settings_.Round = r.round;
+    if (r.round >= 3) {
+        SetUpRound();
+        return;
+    }
+    view_.hideGrid();
+    for (int c = 0; c < 6; ++c)
+        setHeader(c, r.headerCaption[size_t(c)], r.headerTag[size_t(c)]);
+    int done = 0;
+    for (int i = 0; i < 30; ++i) {
+        setTile(i, r.tileCaption[size_t(i)]);
+        done += r.tileCaption[size_t(i)].isEmpty() ? 1 : 0;
+    }
+    // A clue that was open counts as played: the class has seen it.
+    setTilesDone(done);
+    settings_.DailyDouble1 = r.dailyDouble1;
+    settings_.DailyDouble2 = r.dailyDouble2;
+    emit roundChanged();
+    view_.showBoardWindow();
+    view_.Form_Resize();
+    view_.showHeaderRow();
+    for (int row = 0; row < 5; ++row)
+        view_.showTileRow(row);
+    if (done == 30 && state_.Teams == 0)
+        nextRound();
 }
 
 void BoardGame::nextRound()

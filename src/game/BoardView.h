@@ -33,8 +33,9 @@ public:
     virtual void setScreenCaption(const QString &caption) = 0;
     // The screen takes a tile's font and caption, so its value grows out.
     virtual void screenTakesTile(int tile) = 0;
-    // Fits a text into the answer screen and shows it.
-    virtual void showOnScreen(const QString &text) = 0;
+    // Fits a text into the answer screen and shows it, with the picture of
+    // this file beside or above it when there is one it can read.
+    virtual void showOnScreen(const QString &text, const QString &picture = QString()) = 0;
     virtual void setOverlayCaptions(const QString &category, const QString &value) = 0;
     virtual void setCategoryCaption(const QString &category) = 0;
     // Places the category and value labels in the fonts of a column's

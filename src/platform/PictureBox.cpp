@@ -13,7 +13,8 @@ QImage PictureBox::image() const
 
 void PictureBox::setImage(const QImage &image)
 {
-    image_ = image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    // Both forms draw fast; keeping the picture as it came keeps it shared.
+    image_ = image.format() == QImage::Format_RGB32 ? image : image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
     size_ = image_.size();
 }
 

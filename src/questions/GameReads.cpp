@@ -1,5 +1,8 @@
 #include "GameReads.h"
 
+#include <QDir>
+#include <QFileInfo>
+
 #include "platform/NumberText.h"
 #include "platform/GetPrivateProfileString.h"
 
@@ -77,6 +80,20 @@ QString FinalTitle(const QString &file)
 {
     return GetPrivateProfileString(QStringLiteral("Final"), QStringLiteral("Category"), QStringLiteral("Category"),
                                    file);
+}
+
+QString PicturePath(const QString &setFile, const QString &name)
+{
+    if (name.isEmpty())
+        return {};
+    const QFileInfo picture(name);
+    return picture.isAbsolute() ? QDir::cleanPath(name) : QDir::cleanPath(QFileInfo(setFile).absoluteDir().filePath(name));
+}
+
+QString CluePicture(const QString &file, int round, int tile)
+{
+    const QString key = tile < 0 ? QStringLiteral("Picture") : QStringLiteral("Picture") + QString::number(tile / 6);
+    return PicturePath(file, GetPrivateProfileString(TileSection(round, tile), key, QString(), file));
 }
 
 } // namespace GameReads

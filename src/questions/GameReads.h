@@ -31,6 +31,11 @@ QString ColumnTitle(const QString &file, int round, int column);
 // final for tile -1; a missing key shows its own name.
 QString Clue(const QString &file, int round, int tile);
 QString Response(const QString &file, int round, int tile);
+// The picture shown with a clue: its full path (a name in the set names a
+// file beside the set, or an absolute one); empty when the clue has none.
+QString CluePicture(const QString &file, int round, int tile);
+// A picture's name as a set holds it, made a full path beside the set.
+QString PicturePath(const QString &setFile, const QString &name);
 
 // The final's category as shown, default "Category".
 QString FinalTitle(const QString &file);

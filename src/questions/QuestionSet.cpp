@@ -1,5 +1,8 @@
 #include "QuestionSet.h"
 
+#include <QDir>
+#include <QFileInfo>
+
 #include "platform/NumberText.h"
 #include "platform/GetPrivateProfileString.h"
 #include "platform/ModuleFileName.h"
@@ -48,6 +51,7 @@ void loadTexts(QuestionSet &set, int round, const QString &sectionPrefix, const 
         for (int j = 0; j < 5; ++j) {
             entry.Answer[size_t(j)] = ReadIniValue(section, keys.answer + QString::number(j), kNothing, file);
             entry.Question[size_t(j)] = ReadIniValue(section, keys.question + QString::number(j), kNothing, file);
+            entry.Picture[size_t(j)] = ReadIniValue(section, QStringLiteral("Picture") + QString::number(j), QString(), file);
         }
     }
 }
@@ -74,6 +78,10 @@ void appendRound(QStringList &lines, const QuestionSet &set, int round)
         for (int j = 0; j < 5; ++j) {
             lines << numbered("Answer", j) + QLatin1Char('=') + categories[size_t(i)].Answer[size_t(j)];
             lines << numbered("Question", j) + QLatin1Char('=') + categories[size_t(i)].Question[size_t(j)];
+            // Only a set with pictures carries the key: one without is
+            // written byte for byte as ever, and older games skip the key.
+            if (!categories[size_t(i)].Picture[size_t(j)].isEmpty())
+                lines << numbered("Picture", j) + QLatin1Char('=') + categories[size_t(i)].Picture[size_t(j)];
         }
     }
 }
@@ -141,6 +149,7 @@ QuestionSet LoadQuestionSet(const QString &FileName)
     final.Title = ReadIniValue(QStringLiteral("Final"), QStringLiteral("Category"), kNoneMarker, FileName);
     final.Answer[0] = ReadIniValue(QStringLiteral("Final"), keys.answer, kNothing, FileName);
     final.Question[0] = ReadIniValue(QStringLiteral("Final"), keys.question, kNothing, FileName);
+    final.Picture[0] = ReadIniValue(QStringLiteral("Final"), QStringLiteral("Picture"), QString(), FileName);
     return set;
 }
 
@@ -157,10 +166,38 @@ QByteArray QuestionSetFileBytes(const QuestionSet &set)
     const CategoryEntry &final = set.Categories[2][0];
     lines << QString() << QStringLiteral("[Final]") << QStringLiteral("Category=") + final.Title
           << QStringLiteral("Answer=") + final.Answer[0] << QStringLiteral("Question=") + final.Question[0];
+    if (!final.Picture[0].isEmpty())
+        lines << QStringLiteral("Picture=") + final.Picture[0];
     return encodeForFile(lines.join(QStringLiteral("\r\n")) + QStringLiteral("\r\n"));
 }
 
 FileError WriteQuestionSet(const QuestionSet &set, const QString &FileName)
 {
     return WriteFileReplacing(WithQz2Extension(FileName), QuestionSetFileBytes(set));
+}
+
+FileError CopySetPictures(const QString &fromSet, const QString &toSet)
+{
+    const QuestionSet set = LoadQuestionSet(fromSet);
+    const QDir from = QFileInfo(fromSet).absoluteDir(), to = QFileInfo(toSet).absoluteDir();
+    if (from == to)
+        return {};
+    QStringList names;
+    for (const auto &round : set.Categories) {
+        for (const CategoryEntry &entry : round)
+            names += QStringList(entry.Picture.begin(), entry.Picture.end());
+    }
+    FileError first;
+    for (const QString &name : names) {
+        const QString clean = QDir::cleanPath(name);
+        if (name.isEmpty() || QFileInfo(name).isAbsolute() || clean.startsWith(QStringLiteral("..")) ||
+            !QFileInfo(from.filePath(clean)).isFile())
+            continue;
+        const QString target = to.filePath(clean);
+        QDir().mkpath(QFileInfo(target).absolutePath());
+        const FileError e = CopyFileReplacing(from.filePath(clean), target);
+        if (e && !first)
+            first = e;
+    }
+    return first;
 }

@@ -12,6 +12,9 @@ struct CategoryEntry {
     QString Title;
     std::array<QString, 5> Answer;   // the clues, top row first
     std::array<QString, 5> Question; // the responses
+    // Pictures shown with the clues: a file name relative to the set's
+    // folder, or absolute; empty for none (and then not written at all).
+    std::array<QString, 5> Picture;
 };
 
 struct QuestionSet {
@@ -50,3 +53,10 @@ QByteArray QuestionSetFileBytes(const QuestionSet &set);
 // the error's number and description come back and any old file of that
 // name is left as it was.
 FileError WriteQuestionSet(const QuestionSet &set, const QString &FileName);
+
+// Copies the pictures a set names by a relative name from beside the set
+// toSet was copied from to the same places beside toSet, making folders
+// as needed. Absolute names, names that leave the set's folder, pictures
+// that are not there and a copy onto itself are passed over: the set plays
+// without them. The first failure to write comes back.
+FileError CopySetPictures(const QString &fromSet, const QString &toSet);

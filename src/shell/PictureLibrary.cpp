@@ -1,5 +1,33 @@
 #include "PictureLibrary.h"
 
+namespace {
+
+bool anySeeThrough(const QImage &image)
+{
+    const QImage argb = image.convertToFormat(QImage::Format_ARGB32);
+    for (int y = 0; y < argb.height(); ++y) {
+        const auto *line = reinterpret_cast<const QRgb *>(argb.constScanLine(y));
+        for (int x = 0; x < argb.width(); ++x) {
+            if (qAlpha(line[x]) != 255)
+                return true;
+        }
+    }
+    return false;
+}
+
+// Decoded once into the form every drawing uses, so that each board shares
+// this very image (and Qt's cache its scaled copies); a picture without
+// see-through parts says so, and covers what lies beneath it.
+QImage drawable(const QImage &decoded)
+{
+    if (decoded.isNull())
+        return decoded;
+    return decoded.convertToFormat(decoded.hasAlphaChannel() && anySeeThrough(decoded) ? QImage::Format_ARGB32_Premultiplied
+                                                                                         : QImage::Format_RGB32);
+}
+
+} // namespace
+
 PictureLibrary::PictureLibrary(LoadedLibrary library) : library_(std::move(library)) {}
 
 std::unique_ptr<PictureLibrary> PictureLibrary::load(const QString &absolutePath)
@@ -24,7 +52,7 @@ QImage PictureLibrary::bitmap(int32_t id) const
     uint32_t size = 0;
     QImage image;
     if (loadBitmap_(id, &data, &size) == 0 && data && size > 0)
-        image = QImage::fromData(data, int(size), "PNG");
+        image = drawable(QImage::fromData(data, int(size), "PNG"));
     if (!image.isNull())
         decoded_.insert(id, image);
     return image;

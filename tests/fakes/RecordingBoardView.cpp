@@ -41,9 +41,10 @@ void RecordingBoardView::screenTakesTile(int tile)
         screenText = game->state().tileCaption[size_t(tile)];
 }
 
-void RecordingBoardView::showOnScreen(const QString &text)
+void RecordingBoardView::showOnScreen(const QString &text, const QString &picture)
 {
     screenText = text;
+    screenPicture = picture;
     record(QStringLiteral("showOnScreen ") + text);
 }
 

@@ -17,6 +17,7 @@ public:
 
     QStringList requests;   // "ZoomTV tile 3 401", "RotateTV 402 400", "Unload", ...
     QString screenText;     // the answer screen's caption
+    QString screenPicture;  // the picture shown with it, if any
     QString overlayCategory, overlayValue;
     bool screenShown = false;
     bool overlayShown = false;
@@ -40,7 +41,7 @@ public:
     void RotateTV(qint32 PictureID1, qint32 PictureID2) override;
     void setScreenCaption(const QString &caption) override { screenText = caption; }
     void screenTakesTile(int tile) override;
-    void showOnScreen(const QString &text) override;
+    void showOnScreen(const QString &text, const QString &picture = QString()) override;
     void setOverlayCaptions(const QString &category, const QString &value) override;
     void setCategoryCaption(const QString &category) override { overlayCategory = category; }
     void showOverlay(int) override { overlayShown = true; }

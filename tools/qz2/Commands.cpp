@@ -2,35 +2,23 @@
 
 #include "Json.h"
 #include "SetCheck.h"
+#include "TableCommands.h"
 #include "platform/GetPrivateProfileString.h"
 #include "questions/QuestionSet.h"
 
 #include <QFile>
 #include <QFileInfo>
 
+
 namespace {
 
-const char kUsage[] = "usage: qz2 get FILE SECTION KEY DEFAULT | qz2 show FILE | qz2 convert IN [OUT] | qz2 check FILE...";
-
-// Why a file cannot be read, or an empty text when it can.
-QString unreadable(const QString &path)
-{
-    const QFileInfo info(path);
-    if (!info.exists())
-        return QStringLiteral("no such file");
-    if (info.isDir())
-        return QStringLiteral("is a folder");
-    if (!info.isFile())
-        return QStringLiteral("not an ordinary file");
-    QFile f(path);
-    if (!f.open(QIODevice::ReadOnly))
-        return f.errorString();
-    return QString();
-}
+const char kUsage[] = "usage: qz2 get FILE SECTION KEY DEFAULT | qz2 show FILE | qz2 convert IN [OUT] | qz2 check FILE... | "
+                      "qz2 sheet SET OUT.pdf | qz2 import TABLE [OUT] [--description TEXT] [--timer SECONDS] | "
+                      "qz2 export SET TABLE";
 
 bool readable(const QString &path, QTextStream &err)
 {
-    const QString why = unreadable(path);
+    const QString why = UnreadableFile(path);
     if (why.isEmpty())
         return true;
     err << "qz2: cannot read " << path << ": " << why << "\n";
@@ -44,20 +32,39 @@ QString categoryJson(const CategoryEntry &c)
         answers << Json::string(c.Answer[size_t(j)]);
         questions << Json::string(c.Question[size_t(j)]);
     }
-    return Json::object({{QStringLiteral("title"), Json::string(c.Title)},
-                         {QStringLiteral("answers"), Json::array(answers)},
-                         {QStringLiteral("questions"), Json::array(questions)}});
+    QList<std::pair<QString, QString>> members{{QStringLiteral("title"), Json::string(c.Title)},
+                                               {QStringLiteral("answers"), Json::array(answers)},
+                                               {QStringLiteral("questions"), Json::array(questions)}};
+    // Only a category with pictures lists them: the JSON of a set without
+    // stays as it was.
+    if (std::any_of(c.Picture.begin(), c.Picture.end(), [](const QString &p) { return !p.isEmpty(); })) {
+        QStringList pictures;
+        for (const QString &p : c.Picture)
+            pictures << Json::string(p);
+        members.append({QStringLiteral("pictures"), Json::array(pictures)});
+    }
+    return Json::object(members);
 }
 
 // As the game reads: a file that cannot be read gives the default, which
 // is an answer like any other; the warning only says why.
 int get(const QStringList &a, QTextStream &out, QTextStream &err)
 {
-    const QString why = unreadable(a[0]);
+    const QString why = UnreadableFile(a[0]);
     if (!why.isEmpty())
         err << "qz2: warning: cannot read " << a[0] << ": " << why << "; the read gives the default\n";
     out << GetPrivateProfileString(a[1], a[2], a[3], a[0]) << "\n";
     return 0;
+}
+
+QString finalJson(const CategoryEntry &final)
+{
+    QList<std::pair<QString, QString>> members{{QStringLiteral("title"), Json::string(final.Title)},
+                                               {QStringLiteral("answer"), Json::string(final.Answer[0])},
+                                               {QStringLiteral("question"), Json::string(final.Question[0])}};
+    if (!final.Picture[0].isEmpty())
+        members.append({QStringLiteral("picture"), Json::string(final.Picture[0])});
+    return Json::object(members);
 }
 
 int show(const QString &path, QTextStream &out, QTextStream &err)
@@ -79,9 +86,7 @@ int show(const QString &path, QTextStream &out, QTextStream &err)
                          {QStringLiteral("roundCount"), QString::number(set.RoundCount)},
                          {QStringLiteral("categoryCount"), Json::array(counts)},
                          {QStringLiteral("rounds"), Json::array(rounds)},
-                         {QStringLiteral("final"), Json::object({{QStringLiteral("title"), Json::string(final.Title)},
-                                                                 {QStringLiteral("answer"), Json::string(final.Answer[0])},
-                                                                 {QStringLiteral("question"), Json::string(final.Question[0])}})}})
+                         {QStringLiteral("final"), finalJson(final)}})
         << "\n";
     return 0;
 }
@@ -130,6 +135,12 @@ int RunQz2(const QStringList &args, QTextStream &out, QTextStream &err)
         return convert(rest, out, err);
     if (command == QStringLiteral("check") && !rest.isEmpty())
         return check(rest, out, err);
+    if (command == QStringLiteral("sheet") && rest.size() == 2)
+        return sheet(rest, out, err);
+    if (command == QStringLiteral("import"))
+        return ImportTable(rest, out, err);
+    if (command == QStringLiteral("export") && rest.size() == 2)
+        return ExportTable(rest, out, err);
     err << kUsage << "\n";
     return 2;
 }

@@ -1,5 +1,8 @@
 #include "SetCheck.h"
 
+#include <QFileInfo>
+#include <QImageReader>
+
 #include "questions/GameReads.h"
 #include "platform/GetPrivateProfileString.h"
 
@@ -32,6 +35,24 @@ void checkListing(const QString &path, SetReport &report)
     }
 }
 
+// A picture the game cannot show is no fault during play (the clue shows
+// alone), so only the check tells of it.
+void checkPicture(const QString &path, int round, int tile, SetReport &report)
+{
+    const QString file = GameReads::CluePicture(path, round, tile);
+    if (file.isEmpty())
+        return;
+    const QString section = GameReads::TileSection(round, tile);
+    const QString key = tile < 0 ? QStringLiteral("Picture") : QStringLiteral("Picture") + QString::number(tile / 6);
+    QString problem;
+    if (!QFileInfo(file).isFile())
+        problem = QStringLiteral(" is missing");
+    else if (QImageReader reader(file); reader.read().isNull())
+        problem = QStringLiteral(" cannot be read as a picture (") + reader.errorString() + QLatin1Char(')');
+    if (!problem.isEmpty())
+        report.pictures << QLatin1Char('[') + section + QStringLiteral("] ") + key + QStringLiteral(": ") + file + problem;
+}
+
 void checkMissing(const QString &path, int round, int tile, SetReport &report)
 {
     const QString section = GameReads::TileSection(round, tile);
@@ -39,6 +60,7 @@ void checkMissing(const QString &path, int round, int tile, SetReport &report)
         if (!present(path, section, key))
             report.missing << QLatin1Char('[') + section + QStringLiteral("] ") + key;
     }
+    checkPicture(path, round, tile, report);
 }
 
 RoundReport checkRound(const QString &path, int round, SetReport &report)
@@ -119,5 +141,7 @@ QString FormatReport(const QString &path, const SetReport &report)
     for (const QString &m : report.missing)
         lines << QStringLiteral("  missing: ") + m + QStringLiteral(" (the screen shows \"") +
                      m.section(QLatin1Char(' '), 1) + QStringLiteral("\")");
+    for (const QString &p : report.pictures)
+        lines << QStringLiteral("  picture: ") + p + QStringLiteral(" (the clue shows without it)");
     return lines.join(QLatin1Char('\n'));
 }

@@ -18,6 +18,7 @@ struct SetReport {
     QString answerText;    // "10 s", "2.5 s"
     QList<RoundReport> rounds;
     QStringList missing;   // "[Round1Category2] Answer3"
+    QStringList pictures;  // "[Round1Category2] Picture3: maps/a.png is missing"
     bool playable() const;
 };
 

@@ -13,9 +13,11 @@
 #include "board/BoardLayout.h"
 #include "game/BoardGame.h"
 #include "game/BoardView.h"
+#include "game/GameJournal.h"
 #include "platform/PictureBox.h"
 
 #include <QColor>
+#include <QHash>
 #include <QImage>
 #include <QList>
 #include <QPixmap>
@@ -49,6 +51,12 @@ public:
     template <class Board = frmMain>
     static Board *StartGame(GameState &state, Libraries &libraries, int teams, QScreen *hostScreen = nullptr,
                             const std::function<void(frmMain *)> &loaded = {});
+
+    // Opens a new board on a game left behind, as its journal recorded it,
+    // with no warning and no start sound: the class is waiting.
+    template <class Board = frmMain>
+    static Board *ResumeGame(GameState &state, Libraries &libraries, const JournalRecord &record,
+                             QScreen *hostScreen = nullptr, const std::function<void(frmMain *)> &loaded = {});
 
     // Runs an action of the host's on the game as the board's own presses
     // and keys run (the board stays while the action lasts).
@@ -109,6 +117,8 @@ protected:
     // The answer screen grows out of a tile or header to cover the board.
     void ZoomTV(ZoomSource source, qint32 PictureID) override;
     void RotateTV(qint32 PictureID1, qint32 PictureID2) override;
+    // Fits a clue or response into the answer screen, with its picture.
+    void showOnScreen(const QString &text, const QString &picture = QString()) override;
 
     // Form_Unload: shuts the sound down, tells the home screen, and lets
     // the window go.
@@ -133,9 +143,14 @@ private:
     };
 
     static void warnBeforeStart(const Libraries &libraries);
-    // StartGame's steps on the loaded board; false when it was ended during
-    // the start sound.
-    bool start(int teams, QScreen *hostScreen);
+    // Loads a board and plays the game on it (start or resume); the board,
+    // or nullptr when the host ended it before the first round showed.
+    template <class Board>
+    static Board *open(GameState &state, Libraries &libraries, int teams, QScreen *hostScreen,
+                       const std::function<void(frmMain *)> &loaded, const std::function<void(BoardGame &)> &play);
+    // The loaded board's teams and labels, laid out and shown on its
+    // screen; then play; false when the board was ended meanwhile.
+    bool present(int teams, QScreen *hostScreen, const std::function<void(BoardGame &)> &play);
 
     // The game's announcements, shown on the controls.
     void showTile(int tile);
@@ -152,7 +167,6 @@ private:
     void showTileRow(int row) override;
     void setScreenCaption(const QString &caption) override;
     void screenTakesTile(int tile) override;
-    void showOnScreen(const QString &text) override;
     void setOverlayCaptions(const QString &category, const QString &value) override;
     void setCategoryCaption(const QString &category) override;
     void showOverlay(int column) override;
@@ -173,6 +187,9 @@ private:
     void scaleBanner();
     // Shows the board over the whole of its screen.
     void showOnWholeScreen();
+    // A clue's picture, read once per board to fit the answer screen; null
+    // when the file is missing or unreadable (the clue then shows alone).
+    QImage cluePicture(const QString &path);
     // Shows one step of an animation as its own frame.
     void showFrame(int pauseMs);
 
@@ -189,17 +206,33 @@ private:
     int busy_ = 0;
     bool deletePending_ = false;
     QPointer<QScreen> screen_;
+    QHash<QString, QImage> cluePictures_;
 };
+
+template <class Board>
+Board *frmMain::open(GameState &state, Libraries &libraries, int teams, QScreen *hostScreen,
+                     const std::function<void(frmMain *)> &loaded, const std::function<void(BoardGame &)> &play)
+{
+    QPointer<Board> board = new Board(state, libraries);
+    if (loaded)
+        loaded(board);
+    if (!board->present(teams, hostScreen, play) || !board)
+        return nullptr;
+    return board;
+}
 
 template <class Board>
 Board *frmMain::StartGame(GameState &state, Libraries &libraries, int teams, QScreen *hostScreen,
                           const std::function<void(frmMain *)> &loaded)
 {
     warnBeforeStart(libraries);
-    QPointer<Board> board = new Board(state, libraries);
-    if (loaded)
-        loaded(board);
-    if (!board->start(teams, hostScreen) || !board)
-        return nullptr;
-    return board;
+    return open<Board>(state, libraries, teams, hostScreen, loaded, [](BoardGame &game) { game.start(); });
+}
+
+template <class Board>
+Board *frmMain::ResumeGame(GameState &state, Libraries &libraries, const JournalRecord &record, QScreen *hostScreen,
+                           const std::function<void(frmMain *)> &loaded)
+{
+    return open<Board>(state, libraries, record.teams, hostScreen, loaded,
+                       [&record](BoardGame &game) { game.resume(record); });
 }

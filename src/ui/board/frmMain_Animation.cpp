@@ -37,6 +37,7 @@ void frmMain::ZoomTV(ZoomSource from, qint32 PictureID)
     CaptionControl *source = isTile ? vseQuestion[size_t(qBound(0, from.index, 29))]
                                     : vseCategory[size_t(qBound(0, from.index, 5))];
     vseTV->hide();
+    vseTV->setInset(QImage(), {}, {});
     lblCategory->hide();
     lblValue->hide();
     for (int i = 0; i < lblTeam2.size(); ++i) {
@@ -77,6 +78,7 @@ void frmMain::ZoomTV(ZoomSource from, qint32 PictureID)
 void frmMain::RotateTV(qint32 PictureID1, qint32 PictureID2)
 {
     const QSizeF board = screenSize();
+    vseTV->setInset(QImage(), {}, {});
     vseTV->setFastScaling(true);
     libraries_.DrawLibraryBitmap(picText, PictureID1);
     vseTV->setPicture(picText.image());

@@ -21,6 +21,8 @@ frmMain::frmMain(GameState &state, Libraries &libraries, QWidget *parent)
     : QWidget(parent), state_(state), libraries_(libraries)
 {
     setAttribute(Qt::WA_DeleteOnClose);
+    // The backdrop is painted whole: Qt need not fill the window first.
+    setAttribute(Qt::WA_OpaquePaintEvent);
     setWindowTitle(applicationTitle());
     setFocusPolicy(Qt::StrongFocus);
     resize(1024, 768);
@@ -41,7 +43,7 @@ void frmMain::warnBeforeStart(const Libraries &libraries)
                MsgBoxStyle::OKOnly | MsgBoxStyle::Exclamation, applicationTitle());
 }
 
-bool frmMain::start(int teams, QScreen *hostScreen)
+bool frmMain::present(int teams, QScreen *hostScreen, const std::function<void(BoardGame &)> &play)
 {
     Busy busy(*this);
     // Another screen than the host's, when there is one: the projector.
@@ -59,7 +61,7 @@ bool frmMain::start(int teams, QScreen *hostScreen)
     Form_Resize();
     showOnWholeScreen();
     repaint();
-    game_.start();
+    play(game_);
     return !unloaded_;
 }
 

@@ -6,11 +6,13 @@
 #include "game/GameRules.h"
 #include "game/GameState.h"
 #include "ui/controls/ShadowLabel.h"
+#include "board/AnimationGeometry.h"
 #include "board/TextFitting.h"
 #include "ui/controls/CaptionControl.h"
 #include "platform/Clock.h"
 #include "platform/DigitRowKey.h"
 
+#include <QImageReader>
 #include <QKeyEvent>
 #include <QScreen>
 #include <QTimer>
@@ -212,12 +214,40 @@ void frmMain::screenTakesTile(int tile)
     vseTV->setCaption(t->caption());
 }
 
-void frmMain::showOnScreen(const QString &text)
+void frmMain::showOnScreen(const QString &text, const QString &picture)
 {
     const QSizeF board = screenSize();
     vseTV->setTextColor(Qt::white);
-    vseTV->showFitted(CramText(text, vseTV->font(), vseQuestion[0]->fontSize(), 0.8 * board.width(), 0.75 * board.height()));
+    const QImage image = picture.isEmpty() ? QImage() : cluePicture(picture);
+    if (image.isNull()) {
+        vseTV->setInset(QImage(), {}, {});
+        vseTV->showFitted(CramText(text, vseTV->font(), vseQuestion[0]->fontSize(), 0.8 * board.width(),
+                                   0.75 * board.height()));
+    } else {
+        const PictureClueLayout l = LayOutPictureClue(board, QSizeF(image.size()), !text.isEmpty());
+        vseTV->setInset(image, l.picture, l.text);
+        vseTV->showFitted(CramText(text, vseTV->font(), vseQuestion[0]->fontSize(), l.text.width(), l.text.height()));
+    }
     vseTV->repaint();
+}
+
+QImage frmMain::cluePicture(const QString &path)
+{
+    const auto known = cluePictures_.constFind(path);
+    if (known != cluePictures_.constEnd())
+        return *known;
+    QImageReader reader(path);
+    reader.setAutoTransform(true);
+    // Read at the size the screen shows it: a drawing comes out sharp, a
+    // huge photo costs no more than the screen.
+    const QSize natural = reader.size();
+    const QSize screen = screenSize().toSize();
+    if (natural.isValid() && !natural.isEmpty() &&
+        (reader.format() == "svg" || natural.width() > screen.width() || natural.height() > screen.height()))
+        reader.setScaledSize(natural.scaled(screen, Qt::KeepAspectRatio));
+    const QImage image = reader.read();
+    cluePictures_.insert(path, image);
+    return image;
 }
 
 void frmMain::setOverlayCaptions(const QString &category, const QString &value)

@@ -27,6 +27,10 @@ void CaptionControl::setCaption(const QString &caption)
 
 void CaptionControl::setPicture(const QImage &picture)
 {
+    // A picture without see-through parts covers the control whole: what
+    // lies beneath need not be painted first (a 4K board has thirty-six
+    // such captions over its backdrop).
+    setAttribute(Qt::WA_OpaquePaintEvent, !picture.isNull() && !picture.hasAlphaChannel());
     picture_ = picture;
     invalidate();
 }
@@ -162,8 +166,27 @@ void CaptionControl::compose()
     drawCaption(p);
 }
 
+void CaptionControl::setInset(const QImage &picture, const QRectF &pictureArea, const QRectF &captionArea)
+{
+    inset_ = picture;
+    insetArea_ = pictureArea;
+    captionArea_ = captionArea;
+    invalidate();
+}
+
+void CaptionControl::drawInset(QPainter &p) const
+{
+    if (inset_.isNull() || insetArea_.isEmpty())
+        return;
+    QSizeF shown = QSizeF(inset_.size()).scaled(insetArea_.size(), Qt::KeepAspectRatio);
+    const QRectF target(insetArea_.center() - QPointF(shown.width(), shown.height()) / 2, shown);
+    p.setRenderHint(QPainter::SmoothPixmapTransform, !fastScaling_);
+    p.drawImage(target, inset_);
+}
+
 void CaptionControl::drawCaption(QPainter &p) const
 {
+    drawInset(p);
     if (caption_.isEmpty())
         return;
     p.setRenderHint(QPainter::TextAntialiasing);
@@ -172,9 +195,10 @@ void CaptionControl::drawCaption(QPainter &p) const
     const QStringList lines = caption_.split(QLatin1Char('\n'));
     const qreal line = CaptionText::lineHeight(font());
     const qreal shadow = qMax<qreal>(1.0, line / 16.0);
-    qreal y = (height() - line * lines.size()) / 2.0 + fm.ascent();
+    const QRectF area = captionArea_.isEmpty() ? QRectF(rect()) : captionArea_;
+    qreal y = area.top() + (area.height() - line * lines.size()) / 2.0 + fm.ascent();
     for (const QString &text : lines) {
-        const qreal x = (width() - fm.horizontalAdvance(text)) / 2.0;
+        const qreal x = area.left() + (area.width() - fm.horizontalAdvance(text)) / 2.0;
         // A dark shadow keeps light text readable on any projector.
         p.setPen(QColor(0, 0, 0, 200));
         p.drawText(QPointF(x + shadow, y + shadow), text);
@@ -186,7 +210,7 @@ void CaptionControl::drawCaption(QPainter &p) const
 
 void CaptionControl::paintEvent(QPaintEvent *event)
 {
-    if (width() <= 0 || height() <= 0 || (picture_.isNull() && caption_.isEmpty()))
+    if (width() <= 0 || height() <= 0 || (picture_.isNull() && caption_.isEmpty() && inset_.isNull()))
         return;
     QPainter p(this);
     if (fastScaling_) {

@@ -65,6 +65,12 @@ public:
     // Shows a text fitted by CramText: its size, then its lines.
     void showFitted(const FittedText &fitted);
 
+    // A picture shown inside the control at a place of its own, keeping its
+    // shape, and the caption centred in an area of its own; a null picture
+    // and a null area: the caption over the whole control, as ever.
+    void setInset(const QImage &picture, const QRectF &pictureArea, const QRectF &captionArea);
+    QImage inset() const { return inset_; }
+
 signals:
     void resized();
     void pressed(Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
@@ -82,10 +88,14 @@ private:
     // a board repaints dozens of large captions at every animation frame.
     void compose();
     void drawCaption(QPainter &painter) const;
+    void drawInset(QPainter &painter) const;
     void invalidate();
 
     QString caption_;
     QString tag_;
+    QImage inset_;
+    QRectF insetArea_;
+    QRectF captionArea_;
     QImage picture_;
     QColor textColor_ = QColor(255, 255, 255);
     bool fastScaling_ = false;

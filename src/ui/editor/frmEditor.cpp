@@ -78,6 +78,10 @@ void frmEditor::createMenu()
     mnuNew = menuBar()->addAction(QStringLiteral("&New"), this, &frmEditor::mnuNew_Click);
     mnuOpen = menuBar()->addAction(QStringLiteral("&Open..."), this, &frmEditor::mnuOpen_Click);
     mnuSave = menuBar()->addAction(QStringLiteral("&Save As..."), this, &frmEditor::mnuSave_Click);
+    mnuPrintSheet =
+        menuBar()->addAction(QStringLiteral("&Print Host Sheet..."), this, &frmEditor::mnuPrintSheet_Click);
+    mnuImportTable = menuBar()->addAction(QStringLiteral("&Import Spreadsheet..."), this, &frmEditor::mnuImportTable_Click);
+    mnuExportTable = menuBar()->addAction(QStringLiteral("E&xport Spreadsheet..."), this, &frmEditor::mnuExportTable_Click);
     mnuExit = menuBar()->addAction(QStringLiteral("&Exit"), this, &frmEditor::mnuExit_Click);
 }
 

@@ -4,7 +4,9 @@
 // writes the whole set only on Save As.
 //
 // Split by concern: commands, load and layout (frmEditor.cpp); rounds,
-// categories and fields (frmEditor_Fields.cpp).
+// categories and fields (frmEditor_Fields.cpp); the clues' pictures
+// (frmEditor_Pictures.cpp); the host's sheet (frmEditor_Sheet.cpp);
+// spreadsheets in and out (frmEditor_Spreadsheet.cpp).
 #pragma once
 
 #include "questions/QuestionSet.h"
@@ -22,6 +24,7 @@ class QComboBox;
 class QLabel;
 class QLineEdit;
 class QPushButton;
+class QToolButton;
 
 class frmEditor : public QMainWindow {
     Q_OBJECT
@@ -53,15 +56,31 @@ public:
     QLineEdit *txtName = nullptr;
     std::array<QLineEdit *, 5> txtAnswer{};
     std::array<QLineEdit *, 5> txtQuestion{};
+    // Each clue's picture: a thumbnail that chooses one on a click, and
+    // offers to remove it from its menu.
+    std::array<QToolButton *, 5> cmdPicture{};
+    std::array<QAction *, 5> mnuRemovePicture{};
     QAction *mnuNew = nullptr;
     QAction *mnuOpen = nullptr;
     QAction *mnuSave = nullptr;
+    QAction *mnuPrintSheet = nullptr;
+    QAction *mnuImportTable = nullptr;
+    QAction *mnuExportTable = nullptr;
     QAction *mnuExit = nullptr;
 
     void mnuNew_Click();
     void mnuOpen_Click();
     void mnuSave_Click();
+    void mnuImportTable_Click();
+    void mnuExportTable_Click();
     void mnuExit_Click();
+    // The set on paper for the host (a PDF), without saving it.
+    void mnuPrintSheet_Click();
+
+    // A picture for clue j of the category shown: chosen in a dialog, or
+    // taken away.
+    void cmdPicture_Click(int j);
+    void RemovePicture(int j);
 
     // Replaces the set with a file's content and shows it.
     void LoadQuestionSet(const QString &FileName);
@@ -98,6 +117,9 @@ private:
     void txtSecs_Change();
     void txtSecs_LostFocus();
     CategoryEntry &shownCategory();
+    void createPictureButtons();
+    // Shows the category's pictures on their buttons.
+    void showPictures();
     void setFieldShown(QLineEdit *field, bool shown);
     QString questionFolder() const;
 

@@ -14,12 +14,15 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRegularExpressionValidator>
+#include <QToolButton>
 
 namespace {
 
 // The design arrangement, in pixels (the original twips divided by 15).
 constexpr QSizeF kDesign(512, 350);
 constexpr qreal kLeft = 84, kFieldHeight = 20.8, kListHeight = 22, kWide = 416.8;
+// Clue and response leave room on their right for the clue's picture.
+constexpr qreal kTextWide = kWide - 44;
 constexpr qreal kTextRows[10] = {120, 140, 164, 184, 208, 228, 252, 272, 296, 316};
 
 QLabel *caption(const QString &text, QWidget *buddy)
@@ -67,11 +70,12 @@ void frmEditor::createFields()
     txtName = addField(QStringLiteral("Cat. Title:"), QRectF(kLeft, 92, kWide, kFieldHeight), beside(92));
     for (int j = 0; j < 5; ++j) {
         const qreal a = kTextRows[2 * j], q = kTextRows[2 * j + 1];
-        txtAnswer[size_t(j)] = addField(QStringLiteral("Answer %1:").arg(j + 1), QRectF(kLeft, a, kWide, kFieldHeight),
-                                        beside(a));
+        txtAnswer[size_t(j)] = addField(QStringLiteral("Answer %1:").arg(j + 1),
+                                        QRectF(kLeft, a, kTextWide, kFieldHeight), beside(a));
         txtQuestion[size_t(j)] = addField(QStringLiteral("Question %1:").arg(j + 1),
-                                          QRectF(kLeft, q, kWide, kFieldHeight), beside(q));
+                                          QRectF(kLeft, q, kTextWide, kFieldHeight), beside(q));
     }
+    createPictureButtons();
 }
 
 void frmEditor::createRoundsAndCategories()
@@ -214,11 +218,13 @@ void frmEditor::optRound_Click(int Index)
     for (int j = 1; j < 5; ++j) {
         setFieldShown(txtAnswer[size_t(j)], !final);
         setFieldShown(txtQuestion[size_t(j)], !final);
+        cmdPicture[size_t(j)]->setVisible(!final);
     }
     for (int j = 0; j < 5; ++j) {
         put(txtAnswer[size_t(j)], shownCategory().Answer[size_t(j)]);
         put(txtQuestion[size_t(j)], shownCategory().Question[size_t(j)]);
     }
+    showPictures();
     vseMain->refresh();
 }
 
@@ -230,6 +236,7 @@ void frmEditor::optCategory_Click(int Index)
         put(txtAnswer[size_t(j)], shownCategory().Answer[size_t(j)]);
         put(txtQuestion[size_t(j)], shownCategory().Question[size_t(j)]);
     }
+    showPictures();
 }
 
 void frmEditor::cmbRounds_Click()

@@ -15,6 +15,7 @@
 #include "platform/ModuleFileName.h"
 #include "platform/MsgBox.h"
 #include "platform/SpecialFolders.h"
+#include "game/GameRules.h"
 #include "game/GameState.h"
 #include "questions/GameReads.h"
 #include "shell/Libraries.h"
@@ -65,6 +66,8 @@ void frmSelect::createControls()
     lstQuestions = new QListWidget(this);
     lstQuestions->setFont(ArialFont(9.75));
     lstQuestions->setItemDelegate(new QuestionListDelegate(lstQuestions));
+    // Every entry is one line: the list need not measure ten thousand rows.
+    lstQuestions->setUniformItemSizes(true);
     lstQuestions->setSelectionMode(QAbstractItemView::SingleSelection);
     connect(lstQuestions, &QListWidget::itemDoubleClicked, this, [this] { cmdStart_Click(); });
 
@@ -118,10 +121,14 @@ void frmSelect::PopulateQZ2()
     lstQuestions->clear();
     const QString program = ModuleFileName::programFolder();
     lstQuestions->setProperty("programFolder", program);
+    // Filled out of sight: the view lays out once, not once per entry.
+    lstQuestions->setUpdatesEnabled(false);
     for (const QuestionSetEntry &entry : ListQuestionSets(program, documentsFolder())) {
-        auto *item = new QListWidgetItem(entry.text, lstQuestions);
+        auto *item = new QListWidgetItem(entry.text);
         item->setData(Qt::UserRole, entry.folder);
+        lstQuestions->addItem(item);
     }
+    lstQuestions->setUpdatesEnabled(true);
     lstQuestions->setCurrentRow(-1);
     lstQuestions->clearSelection();
     cmdStart->setVisible(lstQuestions->count() > 0);
@@ -170,6 +177,14 @@ void frmSelect::cmdStart_Click()
 {
     if (board_ || !checkSelectedEntry())
         return;
+    const int teams = cmbScore->currentIndex();
+    openBoard([this, teams](QScreen *host, const std::function<void(frmMain *)> &loaded) {
+        return frmMain::StartGame(state_, libraries_, teams, host, loaded);
+    });
+}
+
+void frmSelect::openBoard(const BoardOpener &start)
+{
     // With a second screen the board takes it (the projector) and the
     // console comes up where the home screen was, for the host alone.
     QScreen *hostScreen = screen();
@@ -177,16 +192,51 @@ void frmSelect::cmdStart_Click()
     hide();
     if (twoScreens)
         openConsole(false);
-    frmMain *board = frmMain::StartGame(state_, libraries_, cmbScore->currentIndex(), twoScreens ? hostScreen : nullptr,
-                                        [this](frmMain *loaded) {
-                                            if (console_)
-                                                console_->attach(loaded);
-                                        });
+    frmMain *board = start(twoScreens ? hostScreen : nullptr, [this](frmMain *loaded) {
+        journal_.watch(loaded->game());
+        if (console_)
+            console_->attach(loaded);
+    });
     board_ = board;
     if (board)
         connect(board, &frmMain::unloaded, this, &frmSelect::comeBack);
     else
         comeBack();
+}
+
+bool frmSelect::offerResume()
+{
+    if (!journal_.exists())
+        return false;
+    const std::optional<JournalRecord> record = journal_.read();
+    if (!record) {
+        // Damaged or not ours: out of the way, and the game starts as ever.
+        journal_.setAside();
+        return false;
+    }
+    const QString fingerprint = SetFingerprint(record->questionFile);
+    if (fingerprint.isEmpty() || fingerprint != record->fingerprint) {
+        MsgBox(QStringLiteral("The question set ") + record->questionFile +
+                   QStringLiteral(" has changed or is gone since the game was interrupted, so the game cannot be "
+                                  "resumed."),
+               MsgBoxStyle::OKOnly | MsgBoxStyle::Exclamation, applicationTitle());
+        journal_.remove();
+        return false;
+    }
+    QString text = QStringLiteral("Resume the interrupted game of ") + record->description + QStringLiteral("?\r\n\r\n") +
+                   (record->round >= 3 ? QStringLiteral("The final") : QStringLiteral("Round %1").arg(record->round));
+    for (int team = 0; team < record->teams; ++team)
+        text += QStringLiteral("\r\n") + TeamName(team, record->names[size_t(team)]) + QStringLiteral(": $ ") +
+                FormatScore(record->scores[size_t(team)]);
+    if (MsgBox(text, MsgBoxStyle::YesNo | MsgBoxStyle::Question, applicationTitle()) != MsgBoxResult::Yes) {
+        journal_.remove();
+        return false;
+    }
+    state_.QuestionFile = record->questionFile;
+    openBoard([this, &record](QScreen *host, const std::function<void(frmMain *)> &loaded) {
+        return frmMain::ResumeGame(state_, libraries_, *record, host, loaded);
+    });
+    return true;
 }
 
 void frmSelect::openConsole(bool byHand)

@@ -2,6 +2,7 @@
 // way to the game, the editor and the help. Closing it ends the program.
 #pragma once
 
+#include "game/GameJournal.h"
 #include "ui/board/frmMain.h"
 #include "ui/console/frmConsole.h"
 #include "platform/PictureBox.h"
@@ -9,6 +10,8 @@
 #include <QImage>
 #include <QPointer>
 #include <QWidget>
+
+#include <functional>
 
 class CaptionControl;
 class CommandButton;
@@ -65,6 +68,11 @@ public:
     frmMain *board() const { return board_; }
     QWidget *editor() const { return editor_; }
     QWidget *help() const { return help_; }
+    // The game left behind by a crash, if any: offers to resume it and
+    // does, on the host's word. True when a board opened.
+    bool offerResume();
+    GameJournal &journal() { return journal_; }
+
     // The host's console, once opened (for tests).
     frmConsole *console() const { return console_; }
 
@@ -87,6 +95,11 @@ private:
     // Opens the host's console: by hand as a window (to rehearse, or to name
     // the teams), or on the host's screen when the board takes another.
     void openConsole(bool byHand);
+    // Hides the home screen and opens a board through start, which gets
+    // the host's screen (when the board is to take another) and what must
+    // follow the board from its load.
+    using BoardOpener = std::function<frmMain *(QScreen *, const std::function<void(frmMain *)> &)>;
+    void openBoard(const BoardOpener &start);
 
     GameState &state_;
     Libraries &libraries_;
@@ -96,4 +109,5 @@ private:
     QPointer<QWidget> help_;
     QPointer<frmConsole> console_;
     bool consoleByHand_ = false;
+    GameJournal journal_;
 };

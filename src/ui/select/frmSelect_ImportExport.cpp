@@ -10,6 +10,7 @@
 #include "platform/MsgBox.h"
 #include "platform/SpecialFolders.h"
 #include "platform/WriteFileReplacing.h"
+#include "questions/QuestionSet.h"
 #include "questions/clsOpenSaveDlg.h"
 
 #include <QCursor>
@@ -67,7 +68,10 @@ void frmSelect::ExportQuestionSet(const QString &InitialFolder)
     dialog.setFileName(EntryFileName(entry->text()));
     if (!dialog.ShowSaveAs())
         return;
-    const FileError error = CopyFileReplacing(source, dialog.FileName());
+    FileError error = CopyFileReplacing(source, dialog.FileName());
+    // The pictures go with the set, to the same places beside it.
+    if (!error)
+        error = CopySetPictures(source, dialog.FileName());
     if (error)
         MsgBox(QStringLiteral("Export File Failure\r\n") + error.description, MsgBoxStyle::OKOnly, applicationTitle());
 }
@@ -85,7 +89,10 @@ void frmSelect::ImportQuestionSet(const QString &InitialFolder)
     prepare(dialog, uintptr_t(winId()), QStringLiteral("Select Question File To Import"), folder);
     if (!dialog.ShowOpen())
         return;
-    const FileError error = CopyFileReplacing(dialog.FileName(), documents + dialog.FileNameExtOnly());
+    const QString target = documents + dialog.FileNameExtOnly();
+    FileError error = CopyFileReplacing(dialog.FileName(), target);
+    if (!error)
+        error = CopySetPictures(dialog.FileName(), target);
     if (error)
         MsgBox(QStringLiteral("Import File Failure\r\n") + error.description, MsgBoxStyle::OKOnly, applicationTitle());
     PopulateQZ2();

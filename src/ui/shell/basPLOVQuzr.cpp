@@ -40,8 +40,10 @@ void Main(GameState &state, Libraries &libraries)
         reportMissing(sounds, "sounds");
 
     state.Round = 1;
+    // A game left behind by a crash comes back first, if the host wants it.
     auto *home = new frmSelect(state, libraries);
-    home->show();
+    if (!home->offerResume())
+        home->show();
 }
 
 } // namespace basPLOVQuzr

@@ -1,9 +1,12 @@
-// Saves the host's console during a game as a PNG: a laptop of the given
-// size beside a 1024x768 projector, simulated by Qt's offscreen platform.
+// Saves what a virtual X screen cannot show as PNGs, from Qt's offscreen
+// platform with a laptop of the given size beside a 1024x768 projector.
 // The game's own screens and flow do the work: the home screen starts a
 // game with three named teams, and the console opens a clue.
 //
-//   shoot_console OUT.png [WIDTHxHEIGHT]   (1366x768)
+//   shoot console OUT.png [WIDTHxHEIGHT]   the host's console (1366x768)
+//   shoot picture OUT.png [WIDTHxHEIGHT]   a clue with its picture, on the
+//                                          projector (the laptop's size is
+//                                          then the projector's)
 
 #include "game/GameState.h"
 #include "platform/ModuleFileName.h"
@@ -23,7 +26,7 @@
 
 namespace {
 
-QString screensConfig(const QString &folder, int width, int height)
+QString screensConfig(const QString &folder, int width, int height, QSize projector)
 {
     const QString path = folder + QStringLiteral("/screens.json");
     QFile f(path);
@@ -31,8 +34,8 @@ QString screensConfig(const QString &folder, int width, int height)
         return {};
     QTextStream(&f) << "{\"screens\": [{\"name\": \"laptop\", \"x\": 0, \"y\": 0, \"width\": " << width
                     << ", \"height\": " << height << ", \"logicalDpi\": 96, \"logicalBaseDpi\": 96, \"dpr\": 1},"
-                    << "{\"name\": \"projector\", \"x\": " << width << ", \"y\": 0, \"width\": 1024, \"height\": 768,"
-                    << " \"logicalDpi\": 96, \"logicalBaseDpi\": 96, \"dpr\": 1}]}";
+                    << "{\"name\": \"projector\", \"x\": " << width << ", \"y\": 0, \"width\": " << projector.width()
+                    << ", \"height\": " << projector.height() << ", \"logicalDpi\": 96, \"logicalBaseDpi\": 96, \"dpr\": 1}]}";
     return path;
 }
 
@@ -50,14 +53,18 @@ T *find()
 
 int main(int argc, char **argv)
 {
-    if (argc < 2) {
-        fprintf(stderr, "usage: shoot_console OUT.png [WIDTHxHEIGHT]\n");
+    const QString what = QString::fromLocal8Bit(argc > 1 ? argv[1] : "");
+    if (argc < 3 || (what != QStringLiteral("console") && what != QStringLiteral("picture"))) {
+        fprintf(stderr, "usage: shoot console|picture OUT.png [WIDTHxHEIGHT]\n");
         return 2;
     }
-    const QStringList size = QString::fromLocal8Bit(argc > 2 ? argv[2] : "1366x768").split(QLatin1Char('x'));
+    const bool picture = what == QStringLiteral("picture");
+    const QStringList size = QString::fromLocal8Bit(argc > 3 ? argv[3] : "1366x768").split(QLatin1Char('x'));
     QTemporaryDir work;
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" +
-                                   screensConfig(work.path(), size.value(0).toInt(), size.value(1).toInt()).toLocal8Bit());
+                                   screensConfig(work.path(), size.value(0).toInt(), size.value(1).toInt(),
+                                                 picture ? QSize(size.value(0).toInt(), size.value(1).toInt())
+                                                         : QSize(1024, 768)).toLocal8Bit());
     QApplication app(argc, argv);
     ModuleFileName::overrideProgramFolder(QStringLiteral(QUIZZARR_PROGRAM_DIR));
 
@@ -66,20 +73,21 @@ int main(int argc, char **argv)
     state.TeamNames = {QStringLiteral("Owls"), QStringLiteral("Foxes"), QStringLiteral("Badgers")};
     basPLOVQuzr::Main(state, libraries);
     frmSelect *home = find<frmSelect>();
-    const QList<QListWidgetItem *> sets =
-        home->lstQuestions->findItems(QStringLiteral("World Geography"), Qt::MatchStartsWith);
+    const QList<QListWidgetItem *> sets = home->lstQuestions->findItems(
+        picture ? QStringLiteral("Pictures") : QStringLiteral("World Geography"), Qt::MatchStartsWith);
     home->lstQuestions->setCurrentItem(sets.value(0));
     home->cmdStart->click();
     frmConsole *console = home->console();
     if (!console || !home->board())
         return 1;
-    int tile = 8;
+    int tile = picture ? 0 : 8; // the first flag
     while (tile == state.DailyDouble1 || tile == state.DailyDouble2)
         tile += 6;
     console->findChild<QPushButton *>(QStringLiteral("cmdTile(%1)").arg(tile))->click();
     state.Scores = {1200, 800, -300};
     console->refresh();
-    const bool saved = console->grab().save(QString::fromLocal8Bit(argv[1]));
+    QWidget *shown = picture ? static_cast<QWidget *>(home->board()) : console;
+    const bool saved = shown->grab().save(QString::fromLocal8Bit(argv[2]));
     delete home->board();
     delete home;
     return saved ? 0 : 1;

@@ -1,0 +1,291 @@
+#include "QuestionTable.h"
+
+#include <array>
+
+namespace {
+
+enum Field { RoundField, CategoryField, ClueField, ResponseField, PictureField, FieldCount };
+
+// The header's names, compared without letter case; the first four are
+// required, a picture is optional.
+const std::array<QString, FieldCount> kFieldNames{QStringLiteral("Round"), QStringLiteral("Category"),
+                                                  QStringLiteral("Clue"), QStringLiteral("Response"),
+                                                  QStringLiteral("Picture")};
+constexpr int kRequiredFields = PictureField;
+
+struct Clue {
+    qint64 row = 0;
+    std::array<QString, FieldCount> text;
+};
+
+struct Category {
+    QString title;
+    QList<Clue> clues;
+};
+
+QString rowName(qint64 row)
+{
+    return QStringLiteral("row ") + QString::number(row);
+}
+
+// A host's text inside a message, cut short when it is long.
+QString quoted(const QString &text)
+{
+    return QLatin1Char('"') + (text.size() > 40 ? text.left(40) + QStringLiteral("…") : text) + QLatin1Char('"');
+}
+
+QString roundName(int round)
+{
+    return QStringLiteral("round ") + QString::number(round + 1);
+}
+
+QString rowList(const QList<Clue> &clues)
+{
+    QStringList rows;
+    for (const Clue &c : clues)
+        rows << QString::number(c.row);
+    return (rows.size() == 1 ? QStringLiteral("row ") : QStringLiteral("rows ")) + rows.join(QStringLiteral(", "));
+}
+
+// Walks the rows once, gathering clues by round and category in the order
+// they come; the first fault ends the walk.
+class TableMapper {
+public:
+    explicit TableMapper(const Table &table) : table_(table) { columns_.fill(-1); }
+
+    QString run()
+    {
+        if (table_.rows.isEmpty())
+            return QStringLiteral("the table is empty; its first row must name the columns "
+                                  "Round, Category, Clue and Response");
+        QString fault = readHeader(table_.rows.first());
+        for (qsizetype i = 1; fault.isEmpty() && i < table_.rows.size(); ++i)
+            fault = addRow(table_.rows[i]);
+        return fault.isEmpty() ? checkComplete() : fault;
+    }
+
+    QuestionSet set(const QString &description, qint16 timer) const;
+
+private:
+    QString where(qint64 row, Field field) const
+    {
+        const int column = columns_[size_t(field)];
+        return rowName(row) + QStringLiteral(", column ") + ColumnLetters(column) + QStringLiteral(" (") +
+               headerText(column) + QLatin1Char(')');
+    }
+
+    QString headerText(int column) const { return table_.rows.first().cells.value(column).trimmed(); }
+
+    QString cell(const TableRow &row, Field field) const
+    {
+        const int column = columns_[size_t(field)];
+        return column < 0 ? QString() : row.cells.value(column).trimmed();
+    }
+
+    QString readHeader(const TableRow &header);
+    QString addRow(const TableRow &row);
+    QString addClue(int round, const Clue &clue);
+    QString addFinal(const Clue &clue);
+    QString checkComplete() const;
+
+    const Table &table_;
+    std::array<int, FieldCount> columns_{};
+    std::array<QList<Category>, 2> rounds_;
+    std::optional<Clue> final_;
+};
+
+QString TableMapper::readHeader(const TableRow &header)
+{
+    for (int column = 0; column < header.cells.size(); ++column) {
+        for (int f = 0; f < FieldCount; ++f) {
+            if (header.cells[column].trimmed().compare(kFieldNames[size_t(f)], Qt::CaseInsensitive) != 0)
+                continue;
+            if (columns_[size_t(f)] >= 0)
+                return rowName(header.number) + QStringLiteral(", column ") + ColumnLetters(column) +
+                       QStringLiteral(": a second column ") + quoted(kFieldNames[size_t(f)]) +
+                       QStringLiteral(" (the first is column ") + ColumnLetters(columns_[size_t(f)]) +
+                       QStringLiteral(")");
+            columns_[size_t(f)] = column;
+        }
+    }
+    QStringList missing;
+    for (int f = 0; f < kRequiredFields; ++f) {
+        if (columns_[size_t(f)] < 0)
+            missing << quoted(kFieldNames[size_t(f)]);
+    }
+    if (missing.isEmpty())
+        return QString();
+    return rowName(header.number) + QStringLiteral(": the header has no column") +
+           (missing.size() > 1 ? QStringLiteral("s ") : QStringLiteral(" ")) + missing.join(QStringLiteral(", ")) +
+           QStringLiteral("; the first filled row must name the columns Round, Category, Clue and Response");
+}
+
+QString TableMapper::addRow(const TableRow &row)
+{
+    Clue clue{row.number, {}};
+    bool blank = true;
+    for (int f = 0; f < FieldCount; ++f) {
+        clue.text[size_t(f)] = cell(row, Field(f));
+        blank = blank && clue.text[size_t(f)].isEmpty();
+    }
+    // A row with notes only in other columns is no clue.
+    if (blank)
+        return QString();
+    for (int f = 0; f < FieldCount; ++f) {
+        const QString &text = clue.text[size_t(f)];
+        if (text.isEmpty() && f != PictureField)
+            return where(row.number, Field(f)) + QStringLiteral(": the ") + kFieldNames[size_t(f)].toLower() +
+                   QStringLiteral(" is empty");
+        const QString fault = SetTextFault(text);
+        if (!fault.isEmpty())
+            return where(row.number, Field(f)) + QStringLiteral(": ") + fault;
+    }
+    const QString &round = clue.text[RoundField];
+    if (round.compare(QStringLiteral("Final"), Qt::CaseInsensitive) == 0)
+        return addFinal(clue);
+    if (round == QStringLiteral("1") || round == QStringLiteral("2"))
+        return addClue(round.toInt() - 1, clue);
+    return where(row.number, RoundField) + QStringLiteral(": ") + quoted(round) +
+           QStringLiteral(" is not a round; write 1, 2 or Final");
+}
+
+QString TableMapper::addClue(int round, const Clue &clue)
+{
+    QList<Category> &categories = rounds_[size_t(round)];
+    const QString &title = clue.text[CategoryField];
+    auto it = std::find_if(categories.begin(), categories.end(), [&](const Category &c) { return c.title == title; });
+    if (it == categories.end()) {
+        if (categories.size() == 6)
+            return where(clue.row, CategoryField) + QStringLiteral(": a seventh category, ") + quoted(title) +
+                   QStringLiteral(", in ") + roundName(round) + QStringLiteral("; a round holds at most 6");
+        categories.append(Category{title, {}});
+        it = categories.end() - 1;
+    }
+    if (it->clues.size() == 5)
+        return where(clue.row, CategoryField) + QStringLiteral(": a sixth clue for ") + quoted(title) +
+               QStringLiteral(" in ") + roundName(round) + QStringLiteral(" (five are in ") + rowList(it->clues) +
+               QStringLiteral("); a category holds 5");
+    it->clues.append(clue);
+    return QString();
+}
+
+QString TableMapper::addFinal(const Clue &clue)
+{
+    if (final_)
+        return where(clue.row, RoundField) + QStringLiteral(": a second Final row (the first is row ") +
+               QString::number(final_->row) + QStringLiteral("); a set has one final clue");
+    final_ = clue;
+    return QString();
+}
+
+QString TableMapper::checkComplete() const
+{
+    for (int r = 0; r < 2; ++r) {
+        for (const Category &c : rounds_[size_t(r)]) {
+            if (c.clues.size() < 5)
+                return where(c.clues.last().row, CategoryField) + QStringLiteral(": ") + quoted(c.title) +
+                       QStringLiteral(" in ") + roundName(r) + QStringLiteral(" has ") +
+                       QString::number(c.clues.size()) + (c.clues.size() == 1 ? QStringLiteral(" clue (") : QStringLiteral(" clues (")) +
+                       rowList(c.clues) + QStringLiteral("); a category needs 5");
+        }
+    }
+    if (rounds_[0].isEmpty()) {
+        if (!rounds_[1].isEmpty())
+            return QStringLiteral("no row of round 1 (round 2 starts at row ") +
+                   QString::number(rounds_[1].first().clues.first().row) +
+                   QStringLiteral("); a set starts with round 1");
+        return QStringLiteral("no row of round 1 below the header (") + rowName(table_.rows.first().number) +
+               QStringLiteral("); a set needs at least one category of round 1");
+    }
+    if (!final_)
+        return QStringLiteral("no Final row; a set needs one final clue, a row whose Round is Final");
+    return QString();
+}
+
+QuestionSet TableMapper::set(const QString &description, qint16 timer) const
+{
+    QuestionSet set;
+    set.Description = description;
+    set.Timer = timer;
+    set.RoundCount = rounds_[1].isEmpty() ? 1 : 2;
+    for (int r = 0; r < set.RoundCount; ++r) {
+        const QList<Category> &categories = rounds_[size_t(r)];
+        set.CategoryCount[size_t(r)] = qint16(categories.size());
+        for (qsizetype c = 0; c < categories.size(); ++c) {
+            CategoryEntry &entry = set.Categories[size_t(r)][size_t(c)];
+            entry.Title = categories[c].title;
+            for (int j = 0; j < 5; ++j) {
+                entry.Answer[size_t(j)] = categories[c].clues[j].text[ClueField];
+                entry.Question[size_t(j)] = categories[c].clues[j].text[ResponseField];
+                entry.Picture[size_t(j)] = categories[c].clues[j].text[PictureField];
+            }
+        }
+    }
+    CategoryEntry &final = set.Categories[2][0];
+    final.Title = final_->text[CategoryField];
+    final.Answer[0] = final_->text[ClueField];
+    final.Question[0] = final_->text[ResponseField];
+    final.Picture[0] = final_->text[PictureField];
+    return set;
+}
+
+QStringList exportRow(const QString &round, const CategoryEntry &entry, int row, const QString &value)
+{
+    return {round, entry.Title, value, entry.Answer[size_t(row)], entry.Question[size_t(row)], entry.Picture[size_t(row)]};
+}
+
+} // namespace
+
+QString ColumnLetters(int column)
+{
+    QString letters;
+    for (int n = column + 1; n > 0; n = (n - 1) / 26)
+        letters.prepend(QChar(char16_t(u'A' + (n - 1) % 26)));
+    return letters;
+}
+
+QString SetTextFault(const QString &text)
+{
+    for (const QChar c : text) {
+        const char16_t u = c.unicode();
+        if (u == u'\n' || u == u'\r' || u == u'\v' || u == u'\f' || u == 0x85 || u == 0x2028 || u == 0x2029)
+            return QStringLiteral("a line break inside the text; a set holds every text on one line");
+        if (c.category() == QChar::Other_Control && u != u'\t')
+            return QStringLiteral("a control character (U+%1) inside the text")
+                .arg(QString::number(u, 16).toUpper().rightJustified(4, QLatin1Char('0')));
+    }
+    if (text.size() > kMaxSetText)
+        return QString::number(text.size()) + QStringLiteral(" characters; a text holds at most ") +
+               QString::number(kMaxSetText);
+    return QString();
+}
+
+TableImport QuestionSetFromTable(const Table &table, const QString &description, qint16 timer)
+{
+    TableMapper mapper(table);
+    TableImport result;
+    result.error = mapper.run();
+    if (result.error.isEmpty())
+        result.set = mapper.set(description, timer);
+    return result;
+}
+
+Table TableFromQuestionSet(const QuestionSet &set)
+{
+    Table table;
+    table.numberColumns = {0, 2};
+    table.rows.append({1, {QStringLiteral("Round"), QStringLiteral("Category"), QStringLiteral("Value"),
+                           QStringLiteral("Clue"), QStringLiteral("Response"), QStringLiteral("Picture")}});
+    for (int r = 0; r < set.RoundCount; ++r) {
+        for (int c = 0; c < set.CategoryCount[size_t(r)]; ++c) {
+            for (int j = 0; j < 5; ++j) {
+                // What the board shows on the tile, for the host's eyes only.
+                const QString value = QString::number((j + 1) * (r + 1) * 100);
+                table.rows.append({table.rows.size() + 1, exportRow(QString::number(r + 1),
+                                                                    set.Categories[size_t(r)][size_t(c)], j, value)});
+            }
+        }
+    }
+    table.rows.append({table.rows.size() + 1, exportRow(QStringLiteral("Final"), set.Categories[2][0], 0, QString())});
+    return table;
+}

@@ -1,0 +1,105 @@
+// The clues' pictures: a thumbnail beside each clue, a dialog to choose one,
+// and a way to take it off again.
+
+#include "frmEditor.h"
+
+#include "questions/GameReads.h"
+#include "questions/clsOpenSaveDlg.h"
+#include "ui/controls/CaptionControl.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QImageReader>
+#include <QMenu>
+#include <QToolButton>
+
+namespace {
+
+// The design rectangles of the buttons: beside a clue and its response.
+constexpr qreal kPictureLeft = 460.8, kPictureWidth = 40;
+constexpr qreal kClueRows[5] = {120, 164, 208, 252, 296};
+constexpr qreal kTwoRows = 40.8;
+
+QIcon thumbnail(const QString &path, QSize size)
+{
+    QImageReader reader(path);
+    const QSize natural = reader.size();
+    if (natural.isValid() && !natural.isEmpty())
+        reader.setScaledSize(natural.scaled(size, Qt::KeepAspectRatio));
+    const QImage image = reader.read();
+    return image.isNull() ? QIcon() : QIcon(QPixmap::fromImage(image));
+}
+
+} // namespace
+
+void frmEditor::createPictureButtons()
+{
+    for (int j = 0; j < 5; ++j) {
+        auto *button = new QToolButton;
+        button->setObjectName(QStringLiteral("cmdPicture(%1)").arg(j));
+        button->setToolButtonStyle(Qt::ToolButtonIconOnly);
+        button->setPopupMode(QToolButton::MenuButtonPopup);
+        auto *menu = new QMenu(button);
+        mnuRemovePicture[size_t(j)] = menu->addAction(QStringLiteral("Remove Picture"), this, [this, j] { RemovePicture(j); });
+        button->setMenu(menu);
+        connect(button, &QToolButton::clicked, this, [this, j] { cmdPicture_Click(j); });
+        vseMain->addChild(button, QRectF(kPictureLeft, kClueRows[j], kPictureWidth, kTwoRows));
+        cmdPicture[size_t(j)] = button;
+    }
+}
+
+void frmEditor::showPictures()
+{
+    // A name in the set is found beside the set's file, as the game finds it.
+    const QString setFile = CurrentFileBase.isEmpty() ? QString() : WithQz2Extension(CurrentFileBase);
+    for (int j = 0; j < 5; ++j) {
+        QToolButton *button = cmdPicture[size_t(j)];
+        const QString name = shownCategory().Picture[size_t(j)];
+        const QString path = setFile.isEmpty() && QFileInfo(name).isRelative() ? QString() : GameReads::PicturePath(setFile, name);
+        const QIcon icon = name.isEmpty() ? QIcon() : thumbnail(path, button->size() * 2);
+        button->setIcon(icon);
+        button->setIconSize(button->size() - QSize(12, 6));
+        button->setText(name.isEmpty() ? QStringLiteral("Picture...") : icon.isNull() ? QStringLiteral("?") : QString());
+        button->setToolButtonStyle(icon.isNull() ? Qt::ToolButtonTextOnly : Qt::ToolButtonIconOnly);
+        button->setToolTip(name.isEmpty() ? QStringLiteral("Choose a picture to show with this clue")
+                                          : name + (icon.isNull() ? QStringLiteral(" (not found)") : QString()));
+        mnuRemovePicture[size_t(j)]->setEnabled(!name.isEmpty());
+    }
+}
+
+void frmEditor::cmdPicture_Click(int j)
+{
+    clsOpenSaveDlg dialog;
+    dialog.setWindowTitle(QStringLiteral("Choose a Picture for the Clue"));
+    dialog.setFilter(QStringLiteral("Pictures (*.png;*.jpg;*.jpeg;*.gif;*.svg;*.bmp)|*.png;*.jpg;*.jpeg;*.gif;*.svg;*.bmp"));
+    const QString folder = CurrentFileBase.contains(QLatin1Char('/')) ? QFileInfo(CurrentFileBase).absolutePath() + QLatin1Char('/')
+                                                                     : questionFolder();
+    dialog.setInitialDir(folder);
+    dialog.Flags().setExplorer(true);
+    dialog.Flags().setHideReadOnly(true);
+    dialog.Flags().setLongNames(true);
+    dialog.Flags().setFileMustExist(true);
+    dialog.setHwndOwner(uintptr_t(winId()));
+    if (!dialog.ShowOpen() || dialog.FileName().isEmpty())
+        return;
+    // Beside the set (or in a folder below it) the name is kept relative,
+    // so the set and its pictures can move together.
+    QString name = QDir::cleanPath(dialog.FileName());
+    if (CurrentFileBase.contains(QLatin1Char('/'))) {
+        const QString relative = QFileInfo(CurrentFileBase).absoluteDir().relativeFilePath(name);
+        if (!relative.startsWith(QStringLiteral("..")))
+            name = relative;
+    }
+    shownCategory().Picture[size_t(j)] = name;
+    Modified = QStringLiteral("X");
+    showPictures();
+}
+
+void frmEditor::RemovePicture(int j)
+{
+    if (shownCategory().Picture[size_t(j)].isEmpty())
+        return;
+    shownCategory().Picture[size_t(j)].clear();
+    Modified = QStringLiteral("X");
+    showPictures();
+}

@@ -1,0 +1,37 @@
+// The host's sheet of the set being edited, printed to a PDF.
+
+#include "frmEditor.h"
+
+#include "platform/MsgBox.h"
+#include "questions/HostSheet.h"
+#include "questions/clsOpenSaveDlg.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+void frmEditor::mnuPrintSheet_Click()
+{
+    const QFileInfo set(CurrentFileBase);
+    clsOpenSaveDlg dialog;
+    dialog.setFileName((set.fileName().isEmpty() ? QStringLiteral("Question Set") : set.fileName()) +
+                       QStringLiteral(" - host sheet.pdf"));
+    dialog.setInitialDir(CurrentFileBase.contains(QLatin1Char('/')) ? set.absolutePath() + QLatin1Char('/')
+                                                                    : questionFolder());
+    dialog.setWindowTitle(QStringLiteral("Print Host Sheet"));
+    dialog.setFilter(QStringLiteral("PDF Files (*.pdf)|*.pdf"));
+    dialog.setDefaultExtension(QStringLiteral("pdf"));
+    dialog.Flags().setExplorer(true);
+    dialog.Flags().setHideReadOnly(true);
+    dialog.Flags().setLongNames(true);
+    dialog.Flags().setNoReadOnlyReturn(true);
+    dialog.Flags().setOverwritePrompt(true);
+    dialog.Flags().setPathMustExist(true);
+    dialog.setHwndOwner(uintptr_t(winId()));
+    if (!dialog.ShowSaveAs() || dialog.FileName().isEmpty())
+        return;
+    const FileError error = WriteHostSheet(questionSet, dialog.FileName());
+    if (error)
+        MsgBox(QStringLiteral("The host sheet could not be written to ") + dialog.FileName() + QStringLiteral(":\r\n") +
+                   error.description,
+               MsgBoxStyle::OKOnly | MsgBoxStyle::Critical, QStringLiteral("Print Host Sheet"));
+}

@@ -1,0 +1,92 @@
+// Questions from a spreadsheet and back: a host writes a whole set in the
+// spreadsheet program the school already uses, and the editor takes it in
+// or hands the set out for the same.
+
+#include "frmEditor.h"
+
+#include "platform/ModuleFileName.h"
+#include "platform/MsgBox.h"
+#include "questions/TableFiles.h"
+#include "questions/clsOpenSaveDlg.h"
+
+#include <QAction>
+
+namespace {
+
+const QString kImportCaption = QStringLiteral("Import Spreadsheet");
+const QString kExportCaption = QStringLiteral("Export Spreadsheet");
+
+void prepare(clsOpenSaveDlg &dialog, uintptr_t owner, const QString &folder)
+{
+    dialog.setHwndOwner(owner);
+    dialog.setInitialDir(folder);
+    dialog.Flags().setExplorer(true);
+    dialog.Flags().setHideReadOnly(true);
+    dialog.Flags().setLongNames(true);
+    dialog.Flags().setNoChangeDir(true);
+    dialog.Flags().setAllowMultiSelect(false);
+}
+
+} // namespace
+
+void frmEditor::mnuImportTable_Click()
+{
+    if (!modifiedCheck(kImportCaption))
+        return;
+    clsOpenSaveDlg dialog;
+    prepare(dialog, uintptr_t(winId()), questionFolder());
+    dialog.setFileName(QString());
+    dialog.setFilter(QStringLiteral("Spreadsheets (*.csv;*.xlsx;*.ods)|*.csv;*.xlsx;*.ods"));
+    dialog.Flags().setFileMustExist(true);
+    dialog.setWindowTitle(kImportCaption);
+    if (!dialog.ShowOpen())
+        return;
+    const QString table = dialog.FileName();
+    const TableImport result = ImportQuestionTable(table, DescriptionFromTableName(table), 20);
+    if (!result.set) {
+        MsgBox((result.unreadable ? QStringLiteral("Cannot read ") : QStringLiteral("Cannot import ")) + table +
+                   QStringLiteral(":\r\n\r\n") + result.error,
+               MsgBoxStyle::OKOnly | MsgBoxStyle::Critical, kImportCaption);
+        return;
+    }
+    newSet();
+    questionSet = *result.set;
+    // Save As proposes the table's own name beside it, where qz2 would
+    // write the set.
+    CurrentFileBase = FileBaseOf(table);
+    showSet();
+    // Nothing of it is saved yet.
+    Modified = QStringLiteral("X");
+}
+
+void frmEditor::mnuExportTable_Click()
+{
+    const qsizetype slash = CurrentFileBase.lastIndexOf(QLatin1Char('/'));
+    const QString folder = slash >= 0 ? ModuleFileName::withTrailingSeparator(CurrentFileBase.left(slash))
+                                      : questionFolder();
+    clsOpenSaveDlg dialog;
+    prepare(dialog, uintptr_t(winId()), folder);
+    dialog.setFileName(CurrentFileBase.mid(slash + 1));
+    dialog.setFilter(QStringLiteral("Excel Workbook (*.xlsx)|*.xlsx|CSV Text (*.csv)|*.csv"));
+    dialog.setDefaultExtension(QStringLiteral("xlsx"));
+    dialog.Flags().setNoReadOnlyReturn(true);
+    dialog.Flags().setOverwritePrompt(true);
+    dialog.Flags().setPathMustExist(true);
+    dialog.setWindowTitle(kExportCaption);
+    if (!dialog.ShowSaveAs())
+        return;
+    const Table table = TableFromQuestionSet(questionSet);
+    const FileError error = WriteTableFile(table, dialog.FileName());
+    if (error) {
+        MsgBox(QStringLiteral("Export file error #:") + QString::number(error.number) + QStringLiteral("\r\n\r\n") +
+                   error.description,
+               MsgBoxStyle::OKOnly | MsgBoxStyle::Critical, kExportCaption);
+        return;
+    }
+    // A half-made set is worth finishing in the spreadsheet; the host
+    // learns now what an import would refuse.
+    const TableImport back = QuestionSetFromTable(table, questionSet.Description, questionSet.Timer);
+    if (!back.set)
+        MsgBox(QStringLiteral("The spreadsheet was written, but it will not import as it is:\r\n\r\n") + back.error,
+               MsgBoxStyle::OKOnly | MsgBoxStyle::Exclamation, kExportCaption);
+}

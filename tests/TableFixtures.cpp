@@ -1,0 +1,157 @@
+#include "TableFixtures.h"
+
+#include <minizip/zip.h>
+#include <xlsxwriter.h>
+
+#include <QFile>
+#include <QProcess>
+
+Rows setRows(int round1, int round2, bool final)
+{
+    Rows rows{{QStringLiteral("Round"), QStringLiteral("Category"), QStringLiteral("Clue"), QStringLiteral("Response")}};
+    const int counts[2] = {round1, round2};
+    for (int r = 1; r <= 2; ++r) {
+        for (int c = 0; c < counts[r - 1]; ++c) {
+            for (int j = 0; j < 5; ++j) {
+                const QString id = QStringLiteral("r%1c%2").arg(r).arg(c);
+                rows << QStringList{QString::number(r), QStringLiteral("R%1 Cat %2").arg(r).arg(c),
+                                    id + QStringLiteral(" clue %1").arg(j), id + QStringLiteral(" response %1").arg(j)};
+            }
+        }
+    }
+    if (final)
+        rows << QStringList{QStringLiteral("Final"), QStringLiteral("Final Cat"), QStringLiteral("final clue"),
+                            QStringLiteral("final response")};
+    return rows;
+}
+
+QByteArray csvText(const Rows &rows, char separator, const QByteArray &lineEnd)
+{
+    QByteArray out;
+    for (const QStringList &row : rows) {
+        QByteArrayList cells;
+        for (const QString &cell : row) {
+            QByteArray bytes = cell.toUtf8();
+            if (bytes.contains(separator) || bytes.contains('"') || bytes.contains('\n') || bytes.contains('\r'))
+                bytes = '"' + bytes.replace("\"", "\"\"") + '"';
+            cells << bytes;
+        }
+        out += cells.join(separator) + lineEnd;
+    }
+    return out;
+}
+
+void writeZip(const QString &path, const QList<QPair<QString, QByteArray>> &entries)
+{
+    zipFile zip = zipOpen64(QFile::encodeName(path).constData(), APPEND_STATUS_CREATE);
+    if (!zip)
+        qFatal("cannot create %s", qPrintable(path));
+    for (const auto &[name, bytes] : entries) {
+        zip_fileinfo info{};
+        if (zipOpenNewFileInZip64(zip, name.toUtf8().constData(), &info, nullptr, 0, nullptr, 0, nullptr, Z_DEFLATED,
+                                  Z_DEFAULT_COMPRESSION, 0) != ZIP_OK ||
+            zipWriteInFileInZip(zip, bytes.constData(), unsigned(bytes.size())) != ZIP_OK ||
+            zipCloseFileInZip(zip) != ZIP_OK)
+            qFatal("cannot write %s into %s", qPrintable(name), qPrintable(path));
+    }
+    if (zipClose(zip, nullptr) != ZIP_OK)
+        qFatal("cannot close %s", qPrintable(path));
+}
+
+void writeXlsx(const QString &path, const Rows &rows, bool numbersAsNumbers)
+{
+    lxw_workbook *book = workbook_new(QFile::encodeName(path).constData());
+    lxw_worksheet *sheet = workbook_add_worksheet(book, "Clues");
+    for (qsizetype r = 0; r < rows.size(); ++r) {
+        for (qsizetype c = 0; c < rows[r].size(); ++c) {
+            bool number = false;
+            const double value = rows[r][c].toDouble(&number);
+            if (numbersAsNumbers && number)
+                worksheet_write_number(sheet, lxw_row_t(r), lxw_col_t(c), value, nullptr);
+            else if (!rows[r][c].isEmpty())
+                worksheet_write_string(sheet, lxw_row_t(r), lxw_col_t(c), rows[r][c].toUtf8().constData(), nullptr);
+        }
+    }
+    lxw_worksheet *other = workbook_add_worksheet(book, "Notes");
+    worksheet_write_string(other, 0, 0, "not a header", nullptr);
+    if (workbook_close(book) != LXW_NO_ERROR)
+        qFatal("cannot write %s", qPrintable(path));
+}
+
+QString odsRow(const QStringList &cells)
+{
+    QString xml = QStringLiteral("<table:table-row>");
+    for (const QString &cell : cells)
+        xml += QStringLiteral("<table:table-cell office:value-type=\"string\"><text:p>") + cell.toHtmlEscaped() +
+               QStringLiteral("</text:p></table:table-cell>");
+    return xml + QStringLiteral("</table:table-row>");
+}
+
+void writeOds(const QString &path, const QString &rowsXml)
+{
+    const QString content =
+        QStringLiteral("<?xml version=\"1.0\" encoding=\"UTF-8\"?>"
+                       "<office:document-content xmlns:office=\"urn:oasis:names:tc:opendocument:xmlns:office:1.0\" "
+                       "xmlns:table=\"urn:oasis:names:tc:opendocument:xmlns:table:1.0\" "
+                       "xmlns:text=\"urn:oasis:names:tc:opendocument:xmlns:text:1.0\" office:version=\"1.3\">"
+                       "<office:body><office:spreadsheet><table:table table:name=\"Clues\">"
+                       "<table:table-column table:number-columns-repeated=\"4\"/>") +
+        rowsXml +
+        QStringLiteral("</table:table><table:table table:name=\"Notes\"><table:table-row><table:table-cell>"
+                       "<text:p>not a header</text:p></table:table-cell></table:table-row></table:table>"
+                       "</office:spreadsheet></office:body></office:document-content>");
+    writeZip(path, {{QStringLiteral("mimetype"), "application/vnd.oasis.opendocument.spreadsheet"},
+                    {QStringLiteral("content.xml"), content.toUtf8()}});
+}
+
+bool equalSets(const QuestionSet &a, const QuestionSet &b, QString *where)
+{
+    auto differ = [&](const QString &what, const QString &x, const QString &y) {
+        *where = what + QStringLiteral(": '") + x + QStringLiteral("' vs '") + y + QLatin1Char('\'');
+        return false;
+    };
+    if (a.Description != b.Description || a.Timer != b.Timer || a.RoundCount != b.RoundCount)
+        return differ(QStringLiteral("head"), a.Description, b.Description);
+    for (int r = 0; r < 3; ++r) {
+        if (r == 1 && a.RoundCount == 1)
+            continue;
+        const int count = r == 2 ? 1 : a.CategoryCount[size_t(r)];
+        if (r < 2 && count != b.CategoryCount[size_t(r)])
+            return differ(QStringLiteral("count of round %1").arg(r), QString::number(count), QString());
+        for (int c = 0; c < count; ++c) {
+            const CategoryEntry &x = a.Categories[size_t(r)][size_t(c)];
+            const CategoryEntry &y = b.Categories[size_t(r)][size_t(c)];
+            if (x.Title != y.Title)
+                return differ(QStringLiteral("title %1.%2").arg(r).arg(c), x.Title, y.Title);
+            for (int j = 0; j < (r == 2 ? 1 : 5); ++j) {
+                const QString at = QStringLiteral("%1.%2.%3").arg(r).arg(c).arg(j);
+                if (x.Answer[size_t(j)] != y.Answer[size_t(j)])
+                    return differ(QStringLiteral("clue ") + at, x.Answer[size_t(j)], y.Answer[size_t(j)]);
+                if (x.Question[size_t(j)] != y.Question[size_t(j)])
+                    return differ(QStringLiteral("response ") + at, x.Question[size_t(j)], y.Question[size_t(j)]);
+                if (x.Picture[size_t(j)] != y.Picture[size_t(j)])
+                    return differ(QStringLiteral("picture ") + at, x.Picture[size_t(j)], y.Picture[size_t(j)]);
+            }
+        }
+    }
+    return true;
+}
+
+int runQz2(const QStringList &args, QByteArray *out, QByteArray *err)
+{
+    QProcess p;
+    p.start(QStringLiteral(QUIZZARR_PROGRAM_DIR "/qz2"), args);
+    if (!p.waitForFinished(20000))
+        return -1;
+    if (out)
+        *out = p.readAllStandardOutput();
+    if (err)
+        *err = p.readAllStandardError();
+    return p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1;
+}
+
+QByteArray readFile(const QString &path)
+{
+    QFile f(path);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}

@@ -1,0 +1,49 @@
+// Spreadsheet files made for a test: CSV text, workbooks written by
+// libxlsxwriter as a spreadsheet program saves them, and zips put together
+// entry by entry for the layouts other programs write.
+#pragma once
+
+#include "questions/QuestionSet.h"
+
+#include <QByteArray>
+#include <QList>
+#include <QPair>
+#include <QString>
+#include <QStringList>
+
+using Rows = QList<QStringList>;
+
+// A header (Round, Category, Clue, Response) and the rows of a set with the
+// given numbers of categories, each in five rows in a row. Titles are
+// "R<round> Cat <c>", clues "r<round>c<c> clue <row>", responses
+// "r<round>c<c> response <row>"; the final is "Final Cat", "final clue",
+// "final response".
+Rows setRows(int round1, int round2, bool final = true);
+
+// The rows as text with the separator, quoting as spreadsheets do, lines
+// ending in line end.
+QByteArray csvText(const Rows &rows, char separator = ',', const QByteArray &lineEnd = "\n");
+
+// A zip of the given files, compressed.
+void writeZip(const QString &path, const QList<QPair<QString, QByteArray>> &entries);
+
+// A workbook as libxlsxwriter writes it: the rows from A1 on (texts that
+// read as numbers stored as numbers when asked), and a second sheet that
+// must not be read.
+void writeXlsx(const QString &path, const Rows &rows, bool numbersAsNumbers);
+
+// An OpenDocument spreadsheet whose first sheet holds the given rows
+// (table:table-row elements), and a second sheet that must not be read.
+void writeOds(const QString &path, const QString &rowsXml);
+// One row of plain text cells.
+QString odsRow(const QStringList &cells);
+
+// Whether two sets hold the same description, timer, counts, texts and
+// pictures; where not, where.
+bool equalSets(const QuestionSet &a, const QuestionSet &b, QString *where);
+
+// Runs the built qz2 and waits for it; its exit status, or -1.
+int runQz2(const QStringList &args, QByteArray *out = nullptr, QByteArray *err = nullptr);
+
+// A file's bytes, or none.
+QByteArray readFile(const QString &path);

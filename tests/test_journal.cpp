@@ -1,0 +1,327 @@
+// The game's journal: written after every change, gone when a game ends
+// normally, and a game left behind by a crash resumed exactly as it was;
+// a changed set or a damaged journal never resumes and never crashes.
+
+#include "FakeClock.h"
+#include "FakeSoundControl.h"
+#include "ScriptedMsgBox.h"
+#include "TestFolder.h"
+#include "TestSets.h"
+
+#include "game/GameJournal.h"
+#include "game/GameRules.h"
+#include "game/GameState.h"
+#include "platform/ModuleFileName.h"
+#include "platform/SpecialFolders.h"
+#include "shell/Libraries.h"
+#include "shell/basDetectDevEnv.h"
+#include "ui/board/frmMain.h"
+#include "ui/controls/CommandButton.h"
+#include "ui/controls/ShadowLabel.h"
+#include "ui/select/frmSelect.h"
+
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QListWidget>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+const Qt::KeyboardModifiers kAllThree = Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier;
+
+void sendKey(QWidget *w, int key, Qt::KeyboardModifiers m = Qt::NoModifier, quint32 scanCode = 0)
+{
+    QKeyEvent e(QEvent::KeyPress, key, m, scanCode, 0, 0);
+    QCoreApplication::sendEvent(w, &e);
+}
+
+} // namespace
+
+class TestJournal : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<TestFolder> program_;
+    std::unique_ptr<QTemporaryDir> documents_;
+    std::unique_ptr<FakeClock> clock_;
+    std::unique_ptr<ScriptedMsgBox> boxes_;
+    GameState state_;
+    Libraries libraries_;
+    QPointer<frmSelect> home_;
+
+    QString setPath() const { return program_->file(QStringLiteral("game.QZ2")); }
+    frmMain *board() const { return home_->board(); }
+    GameJournal journal() const { return GameJournal(); }
+
+    frmSelect *openHome(GameState &state)
+    {
+        home_ = new frmSelect(state, libraries_);
+        return home_;
+    }
+    void startGame(int teams)
+    {
+        openHome(state_)->show();
+        home_->cmbScore->setCurrentIndex(teams);
+        home_->lstQuestions->setCurrentRow(0);
+        home_->cmdStart->click();
+    }
+    // A press as the host makes it.
+    void press(BoardGame &game, int tile)
+    {
+        board()->run([tile](BoardGame &g) { g.TilePress(tile, true, false); });
+        for (int step = 0; step < 3 && game.state().stepCode != QString(); ++step)
+            board()->run([](BoardGame &g) { g.AnswerScreenPress(); });
+        board()->run([](BoardGame &g) { g.AnswerScreenPress(); });
+    }
+    // What a crash leaves: the journal, and no end of the game.
+    void crash()
+    {
+        delete board();
+        delete home_.data();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    std::optional<JournalRecord> onDisk()
+    {
+        QCoreApplication::processEvents(); // the write waits for the event's end
+        return journal().read();
+    }
+
+private slots:
+    void initTestCase() { QFont::insertSubstitution(QStringLiteral("Arial"), QStringLiteral("Liberation Sans")); }
+
+    void init()
+    {
+        QFile::remove(GameJournal::defaultPath());
+        state_ = GameState{};
+        program_ = std::make_unique<TestFolder>();
+        program_->write(QStringLiteral("game.QZ2"),
+                        setText({"Rivers", "Lakes", "Seas", "", "", ""}, {"Hills", "Peaks", "", "", "", ""}, "Oceans"));
+        documents_ = std::make_unique<QTemporaryDir>();
+        SpecialFolders::overridePath(SpecialFolders::kDocuments, documents_->path());
+        clock_ = std::make_unique<FakeClock>(5);
+        boxes_ = std::make_unique<ScriptedMsgBox>();
+    }
+
+    void cleanup()
+    {
+        crash();
+        boxes_.reset();
+        clock_.reset();
+        SpecialFolders::overridePath(SpecialFolders::kDocuments, QString());
+        documents_.reset();
+        program_.reset();
+        QFile::remove(GameJournal::defaultPath());
+    }
+
+    void journalFollowsEveryChangeAndGoesWhenTheGameEnds()
+    {
+        QVERIFY(!journal().exists());
+        startGame(2);
+        QVERIFY(board());
+        std::optional<JournalRecord> r = onDisk();
+        QVERIFY(r);
+        QCOMPARE(r->questionFile, setPath());
+        QCOMPARE(r->fingerprint, SetFingerprint(setPath()));
+        QCOMPARE(r->description, QStringLiteral("test"));
+        QCOMPARE(r->round, qint16(1));
+        QCOMPARE(r->teams, qint16(2));
+        QCOMPARE(r->tileCaption[0], QStringLiteral("$100"));
+
+        BoardGame &game = board()->game();
+        press(game, 7);
+        board()->run([](BoardGame &g) { g.addToScore(1, 700); });
+        board()->run([](BoardGame &g) { g.setTeamName(0, QStringLiteral("Owls")); });
+        r = onDisk();
+        QCOMPARE(r->tileCaption[7], QString());
+        QCOMPARE(r->scores[1], 700);
+        QCOMPARE(r->names[0], QStringLiteral("Owls"));
+        QVERIFY(r->history == (std::vector<std::pair<int, qint32>>{{1, 700}}));
+        QCOMPARE(r->dailyDouble1, state_.DailyDouble1);
+
+        // A written journal reads back as written.
+        const std::optional<JournalRecord> again = ReadJournal(WriteJournal(*r));
+        QVERIFY(again);
+        QCOMPARE(WriteJournal(*again), WriteJournal(*r));
+
+        sendKey(board(), Qt::Key_Q, kAllThree);
+        QCoreApplication::processEvents();
+        QVERIFY(!journal().exists()); // a normal end leaves nothing to resume
+    }
+
+    void standingsClosedEndTheJournalToo()
+    {
+        program_->write(QStringLiteral("game.QZ2"), "[Round1]\r\nDescription=nothing to play\r\n");
+        startGame(1);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QCoreApplication::processEvents();
+        QVERIFY(!board());
+        QCOMPARE(boxes_->shown.last().caption, QStringLiteral("Scores"));
+        QVERIFY(!journal().exists());
+    }
+
+    void crashedGameResumesExactlyWhereItStopped()
+    {
+        startGame(3);
+        BoardGame &game = board()->game();
+        press(game, 0);
+        board()->run([](BoardGame &g) { g.addToScore(2, 300); g.addToScore(0, -200); });
+        board()->run([](BoardGame &g) { g.setTeamName(1, QStringLiteral("Foxes")); });
+        sendKey(board(), Qt::Key_N, kAllThree); // round 2
+        press(game, 13);
+        board()->run([](BoardGame &g) { g.TilePress(8, true, true); }); // taken out unplayed
+        // The host opens a clue, and the battery dies with it on the screen.
+        board()->run([](BoardGame &g) { g.TilePress(6, true, false); });
+        QCoreApplication::processEvents();
+        const BoardState before = game.state();
+        const GameState settings = state_;
+        crash();
+
+        // The next start of the program.
+        GameState next;
+        FakeSoundControl sound(libraries_);
+        boxes_->shown.clear();
+        boxes_->answers = {MsgBoxResult::Yes};
+        QVERIFY(openHome(next)->offerResume());
+        QCOMPARE(boxes_->shown.size(), 1);
+        QCOMPARE(boxes_->shown[0].text, QStringLiteral("Resume the interrupted game of test?\r\n\r\nRound 2\r\n"
+                                                       "Team 1: $ -200\r\nFoxes: $ 0\r\nTeam 3: $ 300"));
+        QCOMPARE(boxes_->shown[0].style, MsgBoxStyle::YesNo | MsgBoxStyle::Question);
+        QCOMPARE(boxes_->shown[0].caption, QStringLiteral("PLOV(tm) Quizzarr!"));
+        QVERIFY(board() && board()->isVisible());
+        QVERIFY(!home_->isVisible());
+
+        const BoardState &now = board()->game().state();
+        QCOMPARE(next.Round, qint16(2));
+        QVERIFY(now.tileCaption == before.tileCaption);
+        QVERIFY(now.headerCaption == before.headerCaption);
+        QVERIFY(now.headerTag == before.headerTag);
+        QCOMPARE(now.Teams, qint16(3));
+        QVERIFY(now.scoreHistory == before.scoreHistory);
+        QVERIFY(next.Scores == settings.Scores);
+        QVERIFY(next.TeamNames == settings.TeamNames);
+        QCOMPARE(next.DailyDouble1, settings.DailyDouble1);
+        QCOMPARE(next.DailyDouble2, settings.DailyDouble2);
+        QCOMPARE(next.TilesDone, qint16(settings.TilesDone + 1)); // the open clue counts as played
+        QVERIFY(!board()->screenVisible());
+        QCOMPARE(board()->findChild<ShadowLabel *>(QStringLiteral("lblTeam(1)"))->caption(), QStringLiteral("Foxes:"));
+        QCOMPARE(board()->findChild<ShadowLabel *>(QStringLiteral("lblScore(0)"))->caption(), QStringLiteral("$ -200"));
+        QVERIFY(sound.played().isEmpty()); // no start sound: the class is waiting
+        // The resumed game goes on, and on being played keeps its journal.
+        board()->run([](BoardGame &g) { g.undoScore(); });
+        QCOMPARE(next.Scores[0], 0);
+        QCOMPARE(onDisk()->scores[0], 0);
+    }
+
+    void aFinalResumesFromItsPicture()
+    {
+        startGame(1);
+        sendKey(board(), Qt::Key_N, kAllThree);
+        sendKey(board(), Qt::Key_N, kAllThree);
+        QCOMPARE(state_.Round, qint16(3));
+        board()->run([](BoardGame &g) { g.addToScore(0, 500); });
+        QCOMPARE(onDisk()->round, qint16(3));
+        crash();
+        GameState next;
+        boxes_->answers = {MsgBoxResult::Yes};
+        QVERIFY(openHome(next)->offerResume());
+        QCOMPARE(next.Round, qint16(3));
+        QCOMPARE(board()->game().state().stepCode, QStringLiteral("FC|-1"));
+        QCOMPARE(next.Scores[0], 500);
+    }
+
+    void noForgetsTheGame()
+    {
+        startGame(2);
+        QVERIFY(onDisk());
+        crash();
+        GameState next;
+        boxes_->answers = {MsgBoxResult::No};
+        QVERIFY(!openHome(next)->offerResume());
+        QVERIFY(!board());
+        QVERIFY(!journal().exists());
+        QVERIFY(!openHome(next)->offerResume()); // and does not ask again
+        QCOMPARE(boxes_->shown.size(), 1);
+    }
+
+    void aChangedOrMissingSetIsNamedAndNotResumed_data()
+    {
+        QTest::addColumn<bool>("remove");
+        QTest::newRow("changed") << false;
+        QTest::newRow("gone") << true;
+    }
+    void aChangedOrMissingSetIsNamedAndNotResumed()
+    {
+        QFETCH(bool, remove);
+        startGame(2);
+        QVERIFY(onDisk());
+        crash();
+        if (remove)
+            QVERIFY(QFile::remove(setPath()));
+        else
+            program_->write(QStringLiteral("game.QZ2"), setText({"Other"}, {}, "Z"));
+        GameState next;
+        QVERIFY(!openHome(next)->offerResume());
+        QCOMPARE(boxes_->shown.size(), 1);
+        QCOMPARE(boxes_->shown[0].text, QStringLiteral("The question set ") + setPath() +
+                                            QStringLiteral(" has changed or is gone since the game was interrupted, "
+                                                           "so the game cannot be resumed."));
+        QCOMPARE(boxes_->shown[0].style, MsgBoxStyle::Exclamation);
+        QVERIFY(!board());
+        QVERIFY(!journal().exists());
+    }
+
+    void aDamagedOrForeignJournalIsSetAside_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        startGameForBytes();
+    }
+    void aDamagedOrForeignJournalIsSetAside()
+    {
+        QFETCH(QByteArray, bytes);
+        const QString path = GameJournal::defaultPath();
+        QDir().mkpath(QFileInfo(path).absolutePath());
+        writeFile(path, bytes);
+        GameState next;
+        QVERIFY(!openHome(next)->offerResume());
+        QVERIFY(boxes_->shown.isEmpty()); // no question, no message
+        QVERIFY(!journal().exists());
+        QFile aside(path + QStringLiteral(".damaged"));
+        QVERIFY(aside.open(QIODevice::ReadOnly));
+        QCOMPARE(aside.readAll(), bytes); // kept for a look
+        aside.remove();
+    }
+
+private:
+    // Rows of journals that must never resume: damaged, foreign, from a
+    // newer game, or out of range, each a small change of a good one.
+    void startGameForBytes()
+    {
+        JournalRecord good;
+        good.questionFile = QStringLiteral("/nowhere/game.QZ2");
+        good.teams = 2;
+        good.tileCaption[0] = QStringLiteral("$100");
+        const QByteArray valid = WriteJournal(good);
+        QVERIFY(ReadJournal(valid));
+        auto changed = [&](const char *from, const char *to) {
+            QByteArray b = valid;
+            if (!b.contains(from))
+                qFatal("no %s in a journal", from);
+            return b.replace(from, to);
+        };
+        QTest::newRow("empty") << QByteArray();
+        QTest::newRow("binary") << QByteArray("\x00\xff\xfe{\x01", 5);
+        QTest::newRow("cut short") << valid.left(valid.size() / 2);
+        QTest::newRow("another program's JSON") << QByteArray(R"({"format": "something-else", "version": 1})");
+        QTest::newRow("a newer journal") << changed("\"version\": 1", "\"version\": 2");
+        QTest::newRow("round 4") << changed("\"round\": 1", "\"round\": 4");
+        QTest::newRow("eleven teams") << changed("\"teams\": 2", "\"teams\": 11");
+        QTest::newRow("a tile that is no value") << changed("\"$100\"", "\"hello\"");
+        QTest::newRow("a score that is no whole number") << changed("\"scores\": [\n        0", "\"scores\": [\n        0.5");
+        QTest::newRow("a score beyond any whole number") << changed("\"scores\": [\n        0", "\"scores\": [\n        1e300");
+        QTest::newRow("no set") << changed("\"/nowhere/game.QZ2\"", "\"\"");
+        QTest::newRow("a huge file") << QByteArray(2 << 20, ' ');
+    }
+};
+
+QTEST_MAIN(TestJournal)
+#include "test_journal.moc"

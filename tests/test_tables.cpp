@@ -1,0 +1,370 @@
+// Question sets from and to spreadsheets: the rows a set is made of, the
+// faults a table can have, the round trip, and qz2's import and export.
+// (The files themselves: test_table_files.)
+
+#include "TableFixtures.h"
+#include "TestSets.h"
+#include "questions/QuestionSet.h"
+#include "questions/TableFiles.h"
+#include "questions/TableFormats.h"
+
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+QString programFile(const QString &name)
+{
+    return QStringLiteral(QUIZZARR_PROGRAM_DIR "/") + name;
+}
+
+Table tableOf(const Rows &rows)
+{
+    Table table;
+    for (qsizetype i = 0; i < rows.size(); ++i)
+        table.rows.append({i + 1, rows[i]});
+    return table;
+}
+
+// Texts a spreadsheet and a CSV file must carry unchanged.
+QuestionSet awkwardSet(int round2Categories)
+{
+    QuestionSet s = distinctSet();
+    s.Description = QStringLiteral("Awkward");
+    s.RoundCount = round2Categories ? 2 : 1;
+    s.CategoryCount = {6, qint16(round2Categories ? round2Categories : 6), 0};
+    s.Categories[0][0].Answer[0] = QStringLiteral("Commas, \"quotes\" and; semicolons\tand a tab");
+    s.Categories[0][0].Question[1] = QStringLiteral("=SUM(A1:A2) stays text");
+    s.Categories[0][1].Title = QStringLiteral("Ünïcödé ✓ 漢字 🎲");
+    s.Categories[0][2].Answer[3] = QStringLiteral("_x0041_ is no escape here");
+    s.Categories[0][3].Question[4] = QStringLiteral("007");
+    s.Categories[0][3].Answer[2] = QStringLiteral("1969");
+    s.Categories[0][4].Picture[2] = QStringLiteral("maps/alps, west.png");
+    s.Categories[2][0].Picture[0] = QStringLiteral("final.png");
+    return s;
+}
+
+} // namespace
+
+class TestTables : public QObject {
+    Q_OBJECT
+
+    QTemporaryDir dir_;
+
+    QString path(const QString &name) const { return dir_.filePath(name); }
+
+    QString write(const QString &name, const QByteArray &bytes) { return writeFile(path(name), bytes); }
+
+    QByteArray read(const QString &file) const { return readFile(file); }
+
+private slots:
+    // ------------------------------------------------------------ the rows
+
+    void rowsMakeTheSetInTheirOrder()
+    {
+        Rows rows = setRows(2, 1);
+        rows[0] << QStringLiteral("Picture");
+        rows.move(6, 2);  // the first clue of category 1 before the rest of category 0
+        rows.move(16, 1); // the final first: rounds are told by their column
+        rows[9] << QStringLiteral("p.png");
+        const TableImport result = QuestionSetFromTable(tableOf(rows), QStringLiteral("Desc"), 33);
+        QVERIFY2(result.set, qPrintable(result.error));
+        const QuestionSet &s = *result.set;
+        QCOMPARE(s.Description, QStringLiteral("Desc"));
+        QCOMPARE(s.Timer, qint16(33));
+        QCOMPARE(s.RoundCount, qint16(2));
+        QCOMPARE(s.CategoryCount[0], qint16(2));
+        QCOMPARE(s.CategoryCount[1], qint16(1));
+        QCOMPARE(s.Categories[0][0].Title, QStringLiteral("R1 Cat 0"));
+        QCOMPARE(s.Categories[0][1].Title, QStringLiteral("R1 Cat 1"));
+        for (int j = 0; j < 5; ++j) {
+            QCOMPARE(s.Categories[0][1].Answer[size_t(j)], QStringLiteral("r1c1 clue %1").arg(j));
+            QCOMPARE(s.Categories[0][1].Question[size_t(j)], QStringLiteral("r1c1 response %1").arg(j));
+            QCOMPARE(s.Categories[1][0].Answer[size_t(j)], QStringLiteral("r2c0 clue %1").arg(j));
+        }
+        QCOMPARE(s.Categories[0][1].Picture[2], QStringLiteral("p.png"));
+        QCOMPARE(s.Categories[0][1].Picture[1], QString());
+        QCOMPARE(s.Categories[2][0].Title, QStringLiteral("Final Cat"));
+        QCOMPARE(s.Categories[2][0].Answer[0], QStringLiteral("final clue"));
+        QCOMPARE(s.Categories[2][0].Question[0], QStringLiteral("final response"));
+        QCOMPARE(s.Categories[0][2].Title, QString());
+    }
+
+    void headerColumnsComeInAnyOrderAndLetterCase_data()
+    {
+        QTest::addColumn<QStringList>("header");
+        QTest::addColumn<QList<int>>("order"); // where Round, Category, Clue, Response stand
+        QTest::newRow("as written") << QStringList{QStringLiteral("Round"), QStringLiteral("Category"),
+                                                   QStringLiteral("Clue"), QStringLiteral("Response")}
+                                    << QList<int>{0, 1, 2, 3};
+        QTest::newRow("shuffled, any case, padded, with others")
+            << QStringList{QStringLiteral(" RESPONSE "), QStringLiteral("value"), QStringLiteral("clue"),
+                           QStringLiteral("Notes"), QStringLiteral("rOuNd"), QStringLiteral("Category")}
+            << QList<int>{4, 5, 2, 0};
+    }
+
+    void headerColumnsComeInAnyOrderAndLetterCase()
+    {
+        QFETCH(QStringList, header);
+        QFETCH(QList<int>, order);
+        Rows rows;
+        for (const QStringList &plain : setRows(1, 0)) {
+            QStringList row(header.size(), QStringLiteral("x"));
+            for (int f = 0; f < 4; ++f)
+                row[order[f]] = plain[f];
+            rows << row;
+        }
+        rows[0] = header;
+        const TableImport result = QuestionSetFromTable(tableOf(rows), QString(), 20);
+        QVERIFY2(result.set, qPrintable(result.error));
+        QCOMPARE(result.set->Categories[0][0].Answer[4], QStringLiteral("r1c0 clue 4"));
+        QCOMPARE(result.set->Categories[0][0].Question[4], QStringLiteral("r1c0 response 4"));
+        QCOMPARE(result.set->Categories[2][0].Title, QStringLiteral("Final Cat"));
+    }
+
+    void everyFaultNamesItsRowAndColumn_data()
+    {
+        QTest::addColumn<QByteArray>("csv");
+        QTest::addColumn<QString>("message");
+        const Rows base = setRows(2, 0); // header, rows 2-6 and 7-11, final in row 12
+        auto with = [&](int row, int column, const QString &text) {
+            Rows r = base;
+            r[row][column] = text;
+            return csvText(r);
+        };
+        Rows four = base, six = base, twoFinals = base, duplicate = base, picture = base, missing = base;
+        four.removeAt(5);
+        six.insert(6, {QStringLiteral("1"), QStringLiteral("R1 Cat 0"), QStringLiteral("x"), QStringLiteral("y")});
+        twoFinals << base.last();
+        duplicate[0] << QStringLiteral("clue");
+        picture[0] << QStringLiteral("Picture");
+        picture[2] << QStringLiteral("a\r\nb.png");
+        missing[0][3] = QStringLiteral("Answer");
+        QTest::newRow("four clues") << csvText(four)
+                                    << "row 5, column B (Category): \"R1 Cat 0\" in round 1 has 4 clues (rows 2, 3, 4, 5); "
+                                       "a category needs 5";
+        QTest::newRow("six clues") << csvText(six)
+                                   << "row 7, column B (Category): a sixth clue for \"R1 Cat 0\" in round 1 (five are in "
+                                      "rows 2, 3, 4, 5, 6); a category holds 5";
+        QTest::newRow("seven categories")
+            << csvText(setRows(7, 0))
+            << "row 32, column B (Category): a seventh category, \"R1 Cat 6\", in round 1; a round holds at most 6";
+        QTest::newRow("unknown round") << with(3, 0, QStringLiteral("3"))
+                                       << "row 4, column A (Round): \"3\" is not a round; write 1, 2 or Final";
+        QTest::newRow("missing column") << csvText(missing)
+                                        << "row 1: the header has no column \"Response\"; the first filled row must "
+                                           "name the columns Round, Category, Clue and Response";
+        QTest::newRow("second column") << csvText(duplicate) << "row 1, column E: a second column \"Clue\" (the first is column C)";
+        QTest::newRow("line break") << with(2, 2, QStringLiteral("two\nlines"))
+                                    << "row 3, column C (Clue): a line break inside the text; a set holds every text on one line";
+        QTest::newRow("line break in a picture")
+            << csvText(picture) << "row 3, column E (Picture): a line break inside the text; a set holds every text on one line";
+        QTest::newRow("empty clue") << with(2, 2, QString()) << "row 3, column C (Clue): the clue is empty";
+        QTest::newRow("blank response") << with(4, 3, QStringLiteral("   ")) << "row 5, column D (Response): the response is empty";
+        QTest::newRow("empty category") << with(2, 1, QString()) << "row 3, column B (Category): the category is empty";
+        QTest::newRow("empty round") << with(2, 0, QString()) << "row 3, column A (Round): the round is empty";
+        QTest::newRow("control character") << with(2, 3, QStringLiteral("bell\x07"))
+                                           << "row 3, column D (Response): a control character (U+0007) inside the text";
+        QTest::newRow("too long") << with(2, 2, QString(2000, QLatin1Char('x')))
+                                  << "row 3, column C (Clue): 2000 characters; a text holds at most 1999";
+        QTest::newRow("no final") << csvText(setRows(2, 0, false))
+                                  << "no Final row; a set needs one final clue, a row whose Round is Final";
+        QTest::newRow("two finals") << csvText(twoFinals)
+                                    << "row 13, column A (Round): a second Final row (the first is row 12); a set has one final clue";
+        QTest::newRow("round 2 only") << csvText(setRows(0, 1))
+                                      << "no row of round 1 (round 2 starts at row 2); a set starts with round 1";
+        QTest::newRow("header only") << csvText(setRows(0, 0, false))
+                                     << "no row of round 1 below the header (row 1); a set needs at least one category of round 1";
+        QTest::newRow("empty file") << QByteArray("\r\n\r\n")
+                                    << "the table is empty; its first row must name the columns Round, Category, Clue and Response";
+    }
+
+    // Through qz2, as a host meets it: the message, status 1, and no set
+    // written, nor an old one touched.
+    void everyFaultNamesItsRowAndColumn()
+    {
+        QFETCH(QByteArray, csv);
+        QFETCH(QString, message);
+        const QString table = write(QStringLiteral("fault.csv"), csv);
+        QCOMPARE(ImportQuestionTable(table, QString(), 20).error, message);
+        const QString old = write(QStringLiteral("fault.QZ2"), "old bytes");
+        QByteArray out, err;
+        QCOMPARE(runQz2({QStringLiteral("import"), table}, &out, &err), 1);
+        QCOMPARE(QString::fromUtf8(err), QStringLiteral("qz2: ") + table + QStringLiteral(": ") + message + QLatin1Char('\n'));
+        QVERIFY(out.isEmpty());
+        QCOMPARE(read(old), QByteArray("old bytes"));
+        QVERIFY(!QFile::exists(path(QStringLiteral("other.QZ2"))));
+        QCOMPARE(runQz2({QStringLiteral("import"), table, path(QStringLiteral("other"))}), 1);
+        QVERIFY(!QFile::exists(path(QStringLiteral("other.QZ2"))));
+    }
+
+    // ------------------------------------------------------------ export
+
+    void exportThenImportGivesTheSameSet_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<int>("round2");
+        QTest::newRow("csv, two rounds") << QStringLiteral("trip.csv") << 6;
+        QTest::newRow("xlsx, two rounds") << QStringLiteral("trip.xlsx") << 6;
+        QTest::newRow("csv, one round") << QStringLiteral("trip.CSV") << 0;
+        QTest::newRow("xlsx, three in round 2") << QStringLiteral("trip.XLSX") << 3;
+    }
+
+    void exportThenImportGivesTheSameSet()
+    {
+        QFETCH(QString, name);
+        QFETCH(int, round2);
+        const QuestionSet set = awkwardSet(round2);
+        const QString file = path(name);
+        QVERIFY(!WriteTableFile(TableFromQuestionSet(set), file));
+        const TableImport back = ImportQuestionTable(file, set.Description, set.Timer);
+        QVERIFY2(back.set, qPrintable(back.error));
+        QString where;
+        QVERIFY2(equalSets(set, *back.set, &where), qPrintable(where));
+    }
+
+    // The sheets a host copies to start from are the sample set itself.
+    void samplesInTheDocsAreTheSampleSet_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("csv") << QStringLiteral("sample-questions.csv");
+        QTest::newRow("xlsx") << QStringLiteral("sample-questions.xlsx");
+    }
+
+    void samplesInTheDocsAreTheSampleSet()
+    {
+        QFETCH(QString, name);
+        const QuestionSet sample = LoadQuestionSet(programFile(QStringLiteral("General Knowledge.QZ2")));
+        const TableImport sheet =
+            ImportQuestionTable(QStringLiteral(QUIZZARR_DOCS "/") + name, sample.Description, sample.Timer);
+        QVERIFY2(sheet.set, qPrintable(sheet.error));
+        QString where;
+        QVERIFY2(equalSets(sample, *sheet.set, &where), qPrintable(where));
+    }
+
+    void exportedFilesAreWhatSpreadsheetsOpen()
+    {
+        const QString csv = path(QStringLiteral("look.csv")), xlsx = path(QStringLiteral("look.xlsx"));
+        QVERIFY(!WriteTableFile(TableFromQuestionSet(awkwardSet(6)), csv));
+        const QByteArray text = read(csv);
+        QVERIFY(text.startsWith("\xEF\xBB\xBF" "Round,Category,Value,Clue,Response,Picture\r\n"
+                                "1,R0C0 title,100,\"Commas, \"\"quotes\"\" and; semicolons\tand a tab\","));
+        QVERIFY(text.contains("\r\n2,R1C0 title,1000,clue 1.0.4 = yes,What is 1.0.4?,\r\n"));
+        QVERIFY(text.endsWith("\r\nFinal,R2C0 title,,clue 2.0.0 = yes,What is 2.0.0?,final.png\r\n"));
+        QCOMPARE(text.count("\r\n"), 62);
+        QVERIFY(!WriteTableFile(TableFromQuestionSet(awkwardSet(6)), xlsx));
+        ZipReader zip(xlsx);
+        QString error;
+        const QByteArray sheet = zip.entry(QStringLiteral("xl/worksheets/sheet1.xml"), &error);
+        // Round and value are numbers a spreadsheet can sort and sum.
+        QVERIFY2(sheet.contains("<c r=\"A2\" s=\"1\"><v>1</v></c>") && sheet.contains("<c r=\"C61\" s=\"1\"><v>1000</v></c>"),
+                 sheet.left(2000).constData());
+        QVERIFY(WriteTableFile(Table{}, path(QStringLiteral("look.ods"))).description.contains(QStringLiteral(".csv or .xlsx")));
+    }
+
+    // ------------------------------------------------------------ qz2
+
+    void qz2ImportWritesTheSetBesideTheTable()
+    {
+        QDir().mkpath(path(QStringLiteral("class")));
+        const QString table = write(QStringLiteral("class/Class Quiz.csv"), csvText(setRows(6, 6)));
+        QByteArray out;
+        QCOMPARE(runQz2({QStringLiteral("import"), table}, &out), 0);
+        const QString set = path(QStringLiteral("class/Class Quiz.QZ2"));
+        QCOMPARE(QString::fromUtf8(out), QStringLiteral("wrote ") + set + QLatin1Char('\n'));
+        QuestionSet s = LoadQuestionSet(set);
+        QCOMPARE(s.Description, QStringLiteral("Class Quiz"));
+        QCOMPARE(s.Timer, qint16(20));
+        QCOMPARE(s.Categories[1][5].Question[4], QStringLiteral("r2c5 response 4"));
+        // As convert does, a second import replaces the set it wrote.
+        QCOMPARE(runQz2({QStringLiteral("import"), table, QStringLiteral("--description"), QStringLiteral("Mixed bag"),
+                         QStringLiteral("--timer=45")}),
+                 0);
+        s = LoadQuestionSet(set);
+        QCOMPARE(s.Description, QStringLiteral("Mixed bag"));
+        QCOMPARE(s.Timer, qint16(45));
+        QCOMPARE(runQz2({QStringLiteral("import"), QStringLiteral("--timer"), QStringLiteral("5"), table,
+                         path(QStringLiteral("class/named"))}, &out),
+                 0);
+        QCOMPARE(LoadQuestionSet(path(QStringLiteral("class/named.QZ2"))).Timer, qint16(5));
+    }
+
+    void qz2ImportRefusesBadArguments_data()
+    {
+        QTest::addColumn<QStringList>("options");
+        QTest::addColumn<QString>("message");
+        const QString usage = QStringLiteral("usage: qz2 import TABLE [OUT.QZ2] [--description TEXT] [--timer SECONDS]\n");
+        QTest::newRow("timer 4") << QStringList{QStringLiteral("--timer"), QStringLiteral("4")}
+                                 << "qz2: --timer takes whole seconds from 5 to 60, not \"4\"\n";
+        QTest::newRow("timer 61") << QStringList{QStringLiteral("--timer=61")}
+                                  << "qz2: --timer takes whole seconds from 5 to 60, not \"61\"\n";
+        QTest::newRow("timer 20.5") << QStringList{QStringLiteral("--timer=20.5")}
+                                    << "qz2: --timer takes whole seconds from 5 to 60, not \"20.5\"\n";
+        QTest::newRow("two-line description") << QStringList{QStringLiteral("--description"), QStringLiteral("a\nb")}
+                                              << "qz2: --description: a line break inside the text; a set holds every "
+                                                 "text on one line\n";
+        QTest::newRow("unknown option") << QStringList{QStringLiteral("--force")} << usage;
+        QTest::newRow("option without value") << QStringList{QStringLiteral("--timer")} << usage;
+        QTest::newRow("three files") << QStringList{QStringLiteral("a"), QStringLiteral("b")} << usage;
+    }
+
+    void qz2ImportRefusesBadArguments()
+    {
+        QFETCH(QStringList, options);
+        QFETCH(QString, message);
+        const QString table = write(QStringLiteral("args.csv"), csvText(setRows(1, 0)));
+        QByteArray err;
+        QCOMPARE(runQz2(QStringList{QStringLiteral("import"), table} + options, nullptr, &err), 2);
+        QCOMPARE(QString::fromUtf8(err), message);
+        QVERIFY(!QFile::exists(path(QStringLiteral("args.QZ2"))));
+    }
+
+    void qz2ExportWritesTablesThatImportBack_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("csv") << QStringLiteral("science.csv");
+        QTest::newRow("xlsx") << QStringLiteral("science.xlsx");
+    }
+
+    void qz2ExportWritesTablesThatImportBack()
+    {
+        QFETCH(QString, name);
+        const QString sample = programFile(QStringLiteral("Science Lab.QZ2"));
+        const QuestionSet original = LoadQuestionSet(sample);
+        const QString table = path(name);
+        QByteArray out, err;
+        QCOMPARE(runQz2({QStringLiteral("export"), sample, table}, &out, &err), 0);
+        QCOMPARE(QString::fromUtf8(out), QStringLiteral("wrote ") + table + QLatin1Char('\n'));
+        QVERIFY(err.isEmpty());
+        QCOMPARE(runQz2({QStringLiteral("import"), table, path(QStringLiteral("back")), QStringLiteral("--description"),
+                         original.Description, QStringLiteral("--timer"), QString::number(original.Timer)}),
+                 0);
+        QCOMPARE(read(path(QStringLiteral("back.QZ2"))), read(sample));
+    }
+
+    void qz2ExportSaysWhatItCannotDo()
+    {
+        const QString sample = programFile(QStringLiteral("Party Mix.QZ2"));
+        QByteArray out, err;
+        QCOMPARE(runQz2({QStringLiteral("export"), sample, path(QStringLiteral("party.ods"))}, &out, &err), 1);
+        QCOMPARE(QString::fromUtf8(err), QStringLiteral("qz2: cannot write ") + path(QStringLiteral("party.ods")) +
+                                             QStringLiteral(": a spreadsheet is written as .csv or .xlsx\n"));
+        QVERIFY(!QFile::exists(path(QStringLiteral("party.ods"))));
+        QCOMPARE(runQz2({QStringLiteral("export"), path(QStringLiteral("gone.QZ2")), path(QStringLiteral("x.csv"))}, &out, &err), 1);
+        QVERIFY(err.startsWith("qz2: cannot read "));
+        QCOMPARE(runQz2({QStringLiteral("export"), sample, path(QStringLiteral("no/such/x.xlsx"))}, &out, &err), 1);
+        QVERIFY2(err.contains(": error #"), err.constData());
+        QCOMPARE(runQz2({QStringLiteral("export"), sample}, &out, &err), 2);
+        // A half-made set is written, with a warning of what import refuses.
+        const QString half = write(QStringLiteral("half.QZ2"), setText({"A", "A"}, {}, "F"));
+        QCOMPARE(runQz2({QStringLiteral("export"), half, path(QStringLiteral("half.csv"))}, &out, &err), 0);
+        QVERIFY(QFile::exists(path(QStringLiteral("half.csv"))));
+        QCOMPARE(QString::fromUtf8(err), QStringLiteral("qz2: warning: ") + path(QStringLiteral("half.csv")) +
+                                             QStringLiteral(" will not import as it is: row 7, column B (Category): a "
+                                                            "sixth clue for \"A\" in round 1 (five are in rows 2, 3, "
+                                                            "4, 5, 6); a category holds 5\n"));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestTables)
+#include "test_tables.moc"
