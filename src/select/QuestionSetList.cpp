@@ -1,14 +1,9 @@
 #include "QuestionSetList.h"
 
 #include "questions/GameReads.h"
-
-#include <QDir>
-#include <QThread>
+#include "platform/EveryCore.h"
 
 #include <algorithm>
-#include <future>
-#include <system_error>
-#include <vector>
 
 namespace {
 
@@ -16,53 +11,56 @@ namespace {
 // they take.
 constexpr qsizetype kFilesPerCore = 256;
 
-// The description of every file, in the names' order. With thousands of
-// sets the home screen waits on these reads, one small file each, so they
-// are shared out among the cores.
-QStringList Descriptions(const QString &folder, const QStringList &names)
+// The description of every file, in the files' order: the cache's where
+// the file is unchanged, else read. With thousands of sets the home screen
+// waits on these reads, one small file each, so they are shared out among
+// the cores.
+QStringList Descriptions(const QString &folder, const QList<StampedFile> &files, DescriptionCache *cache,
+                         QList<bool> &cached)
 {
-    QStringList descriptions(names.size());
+    QStringList descriptions(files.size());
+    cached.fill(false, files.size());
     QString *out = descriptions.data(); // detached once, before any thread writes
-    const auto readRange = [&folder, &names, out](qsizetype from, qsizetype to) {
-        for (qsizetype i = from; i < to; ++i)
-            out[i] = GameReads::Description(folder + names.at(i));
-    };
-    const qsizetype cores = qBound(qsizetype(1), qsizetype(QThread::idealThreadCount()),
-                                   names.size() / kFilesPerCore + 1);
-    const qsizetype share = (names.size() + cores - 1) / cores;
-    std::vector<std::future<void>> others;
-    for (qsizetype from = share; from < names.size(); from += share) {
-        const qsizetype to = qMin(from + share, names.size());
-        try {
-            others.push_back(std::async(std::launch::async, readRange, from, to));
-        } catch (const std::system_error &) { // no thread to be had: read them here
-            readRange(from, to);
-        }
+    QList<qsizetype> unknown;
+    for (qsizetype i = 0; i < files.size(); ++i) {
+        const QString *known = cache ? cache->find(folder, files.at(i).name, files.at(i).stamp) : nullptr;
+        if (known) {
+            out[i] = *known;
+            cached[i] = true;
+        } else
+            unknown << i;
     }
-    readRange(0, qMin(share, names.size()));
-    for (auto &other : others)
-        other.get();
+    OnEveryCore(unknown.size(), kFilesPerCore, [&folder, &files, &unknown, out](qsizetype from, qsizetype to) {
+        for (qsizetype k = from; k < to; ++k)
+            out[unknown.at(k)] = GameReads::Description(folder + files.at(unknown.at(k)).name);
+    });
+    if (cache) {
+        for (qsizetype i = 0; i < files.size(); ++i)
+            cache->remember(folder, files.at(i).name, files.at(i).stamp, out[i]);
+    }
     return descriptions;
+}
+
+bool IsSetFileName(const QString &name)
+{
+    // Hidden files (a leading ".") are not listed, like the system's hidden
+    // files never were.
+    return !name.startsWith(QLatin1Char('.')) && name.endsWith(QStringLiteral(".QZ2"), Qt::CaseInsensitive);
 }
 
 } // namespace
 
-QList<QuestionSetEntry> FindQuestionSets(const QString &folder, int folderCode)
+QList<QuestionSetEntry> FindQuestionSets(const QString &folder, int folderCode, DescriptionCache *cache)
 {
     QList<QuestionSetEntry> entries;
     if (folder.isEmpty())
         return entries;
-    QStringList names;
-    for (const QString &name : QDir(folder).entryList(QDir::Files | QDir::NoDotAndDotDot, QDir::Unsorted)) {
-        // Hidden files (a leading ".") are not listed, like the system's
-        // hidden files never were.
-        if (!name.startsWith(QLatin1Char('.')) && name.endsWith(QStringLiteral(".QZ2"), Qt::CaseInsensitive))
-            names << name;
-    }
-    const QStringList descriptions = Descriptions(folder, names);
-    for (qsizetype i = 0; i < names.size(); ++i) {
+    const QList<StampedFile> files = OrdinaryFilesIn(folder, IsSetFileName);
+    QList<bool> cached;
+    const QStringList descriptions = Descriptions(folder, files, cache, cached);
+    for (qsizetype i = 0; i < files.size(); ++i) {
         if (GameReads::IsQuestionSet(descriptions.at(i)))
-            entries.append({names.at(i) + QLatin1Char('\t') + descriptions.at(i), folderCode});
+            entries.append({files.at(i).name + QLatin1Char('\t') + descriptions.at(i), folderCode, cached.at(i)});
     }
     return entries;
 }
@@ -72,10 +70,11 @@ bool EntryBefore(const QString &a, const QString &b)
     return a.compare(b, Qt::CaseInsensitive) < 0;
 }
 
-QList<QuestionSetEntry> ListQuestionSets(const QString &programFolder, const QString &documentsFolder)
+QList<QuestionSetEntry> ListQuestionSets(const QString &programFolder, const QString &documentsFolder,
+                                         DescriptionCache *cache)
 {
-    QList<QuestionSetEntry> entries = FindQuestionSets(programFolder, 0);
-    entries += FindQuestionSets(documentsFolder, 1);
+    QList<QuestionSetEntry> entries = FindQuestionSets(programFolder, 0, cache);
+    entries += FindQuestionSets(documentsFolder, 1, cache);
     std::stable_sort(entries.begin(), entries.end(),
                      [](const QuestionSetEntry &a, const QuestionSetEntry &b) { return EntryBefore(a.text, b.text); });
     return entries;
@@ -84,4 +83,37 @@ QList<QuestionSetEntry> ListQuestionSets(const QString &programFolder, const QSt
 QString EntryFileName(const QString &text)
 {
     return text.section(QLatin1Char('\t'), 0, 0);
+}
+
+int WidestFileName(const QList<QuestionSetEntry> &entries, const QFontMetrics &metrics, DescriptionCache *cache)
+{
+    // Names measure as before only in the same font at the same resolution:
+    // a sample text's exact width tells.
+    const QString measure = metrics.fontDpi() > 0
+        ? QString::number(QFontMetricsF(metrics).horizontalAdvance(
+              QStringLiteral("The quick brown fox jumps over the lazy dog 0123456789")), 'g', 17) +
+            QLatin1Char('@') + QString::number(metrics.fontDpi())
+        : QString();
+    const DescriptionCache::WidestName before = cache ? cache->widestName() : DescriptionCache::WidestName{};
+    const QStringList folders = cache ? cache->listedFolders() : QStringList();
+    bool beforeStands = before.width >= 0 && before.measure == measure && before.folders == folders;
+    if (beforeStands) {
+        beforeStands = std::any_of(entries.cbegin(), entries.cend(), [&before](const QuestionSetEntry &e) {
+            return e.cached && EntryFileName(e.text) == before.name;
+        });
+    }
+    DescriptionCache::WidestName widest{folders, measure, QString(), beforeStands ? before.width : -1};
+    if (beforeStands)
+        widest.name = before.name;
+    for (const QuestionSetEntry &entry : entries) {
+        if (beforeStands && entry.cached)
+            continue;
+        const QString name = EntryFileName(entry.text);
+        const int width = metrics.horizontalAdvance(name);
+        if (width > widest.width)
+            widest = {folders, measure, name, width};
+    }
+    if (cache)
+        cache->setWidestName(widest);
+    return qMax(0, widest.width);
 }

@@ -4,23 +4,36 @@
 // and the code of the folder they came from.
 #pragma once
 
+#include "DescriptionCache.h"
+
+#include <QFontMetrics>
 #include <QList>
 #include <QString>
 
 struct QuestionSetEntry {
-    QString text;   // file name, tab, description
-    int folder = 0; // 0 program folder, 1 documents folder
+    QString text;        // file name, tab, description
+    int folder = 0;      // 0 program folder, 1 documents folder
+    bool cached = false; // as the cache knew it
 };
 
 // Entries of one folder (ending in "/"), in the order the file system
-// gives them: ordinary files only, hidden ones left out.
-QList<QuestionSetEntry> FindQuestionSets(const QString &folder, int folderCode);
+// gives them: ordinary files only, hidden ones left out. A cache, when
+// given, answers for unchanged files and learns the rest.
+QList<QuestionSetEntry> FindQuestionSets(const QString &folder, int folderCode, DescriptionCache *cache = nullptr);
 
 // The whole list, sorted by text without regard to letter case.
-QList<QuestionSetEntry> ListQuestionSets(const QString &programFolder, const QString &documentsFolder);
+QList<QuestionSetEntry> ListQuestionSets(const QString &programFolder, const QString &documentsFolder,
+                                         DescriptionCache *cache = nullptr);
 
 // Orders entries as the list shows them.
 bool EntryBefore(const QString &a, const QString &b);
 
 // The file name of an entry: its text up to the first tab.
 QString EntryFileName(const QString &text);
+
+// The widest file name of the entries in pixels of these metrics, as the
+// list's column needs it. Measuring ten thousand names takes long, so the
+// cache's answer stands while it is still true (its widest file is listed
+// yet, no file is new to it, and names measure as before); only new names
+// are measured then. The cache learns the answer.
+int WidestFileName(const QList<QuestionSetEntry> &entries, const QFontMetrics &metrics, DescriptionCache *cache);

@@ -31,6 +31,12 @@ QuestionListDelegate::QuestionListDelegate(QAbstractItemView *view) : QStyledIte
     connect(model, &QAbstractItemModel::layoutChanged, this, forget);
 }
 
+void QuestionListDelegate::setWidestName(const QFont &font, int width)
+{
+    widest_ = width;
+    measuredIn_ = font;
+}
+
 int QuestionListDelegate::descriptionColumn(const QFont &font, const QAbstractItemModel *model, int width)
 {
     const QFontMetrics fm(font);

@@ -16,6 +16,10 @@ public:
 
     void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override;
 
+    // The widest file name of the list as filled, measured in this font
+    // (the view's); holds until the list or the font changes.
+    void setWidestName(const QFont &font, int width);
+
     // Where the description column starts: after the widest file name of
     // the list, but at most half the width.
     static int descriptionColumn(const QFont &font, const QAbstractItemModel *model, int width);

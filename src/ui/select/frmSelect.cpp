@@ -65,7 +65,8 @@ void frmSelect::createControls()
 {
     lstQuestions = new QListWidget(this);
     lstQuestions->setFont(ArialFont(9.75));
-    lstQuestions->setItemDelegate(new QuestionListDelegate(lstQuestions));
+    delegate_ = new QuestionListDelegate(lstQuestions);
+    lstQuestions->setItemDelegate(delegate_);
     // Every entry is one line: the list need not measure ten thousand rows.
     lstQuestions->setUniformItemSizes(true);
     lstQuestions->setSelectionMode(QAbstractItemView::SingleSelection);
@@ -123,11 +124,22 @@ void frmSelect::PopulateQZ2()
     lstQuestions->setProperty("programFolder", program);
     // Filled out of sight: the view lays out once, not once per entry.
     lstQuestions->setUpdatesEnabled(false);
-    for (const QuestionSetEntry &entry : ListQuestionSets(program, documentsFolder())) {
-        auto *item = new QListWidgetItem(entry.text);
-        item->setData(Qt::UserRole, entry.folder);
-        lstQuestions->addItem(item);
+    DescriptionCache cache(DescriptionCache::defaultFile());
+    const QList<QuestionSetEntry> entries = ListQuestionSets(program, documentsFolder(), &cache);
+    QStringList texts;
+    texts.reserve(entries.size());
+    for (const QuestionSetEntry &entry : entries)
+        texts << entry.text;
+    lstQuestions->addItems(texts); // in one insertion, not ten thousand
+    // Only the documents folder's entries say where they came from; no
+    // code reads as the program folder.
+    for (qsizetype row = 0; row < entries.size(); ++row) {
+        if (entries.at(row).folder != 0)
+            lstQuestions->item(int(row))->setData(Qt::UserRole, entries.at(row).folder);
     }
+    const QFont font = lstQuestions->font();
+    delegate_->setWidestName(font, WidestFileName(entries, QFontMetrics(font), &cache));
+    cache.save();
     lstQuestions->setUpdatesEnabled(true);
     lstQuestions->setCurrentRow(-1);
     lstQuestions->clearSelection();

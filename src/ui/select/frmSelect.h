@@ -19,6 +19,7 @@ class QComboBox;
 class QLabel;
 class QListWidget;
 class QListWidgetItem;
+class QuestionListDelegate;
 class QAction;
 class QMenu;
 
@@ -103,6 +104,7 @@ private:
 
     GameState &state_;
     Libraries &libraries_;
+    QuestionListDelegate *delegate_ = nullptr;
     QImage banner_;
     QPointer<frmMain> board_;
     QPointer<QWidget> editor_;

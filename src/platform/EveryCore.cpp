@@ -1,0 +1,26 @@
+#include "EveryCore.h"
+
+#include <QThread>
+
+#include <future>
+#include <system_error>
+#include <vector>
+
+void OnEveryCore(qsizetype count, qsizetype minimumPerCore, const std::function<void(qsizetype, qsizetype)> &work)
+{
+    const qsizetype cores =
+        qBound(qsizetype(1), qsizetype(QThread::idealThreadCount()), count / qMax(qsizetype(1), minimumPerCore) + 1);
+    const qsizetype share = (count + cores - 1) / cores;
+    std::vector<std::future<void>> others;
+    for (qsizetype from = share; from < count; from += share) {
+        const qsizetype to = qMin(from + share, count);
+        try {
+            others.push_back(std::async(std::launch::async, work, from, to));
+        } catch (const std::system_error &) { // no thread to be had: the work is done here
+            work(from, to);
+        }
+    }
+    work(0, qMin(share, count));
+    for (auto &other : others)
+        other.get();
+}
