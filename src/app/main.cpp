@@ -3,16 +3,23 @@
 #include "platform/MsgBox.h"
 #include "platform/TerminationSignals.h"
 #include "shell/Libraries.h"
+#include "shell/StartupPrefetch.h"
 #include "ui/controls/QtFileDialog.h"
 #include "ui/controls/QtMsgBox.h"
 #include "ui/shell/basPLOVQuzr.h"
 
 #include <QApplication>
 
+#include <memory>
+
 int main(int argc, char **argv)
 {
-    QApplication app(argc, argv);
+    // Named first: the user's folders of this program carry the name.
     QApplication::setApplicationName(applicationTitle());
+    // The disk's share of the start runs on another core while Qt connects
+    // to the screen.
+    auto ahead = std::make_unique<StartupPrefetch>();
+    QApplication app(argc, argv);
     // The home screen hides while a game, the editor or the help is open,
     // and message boxes come and go in between: the program ends when the
     // home screen closes, not when no window happens to be open.
@@ -35,6 +42,7 @@ int main(int argc, char **argv)
         libraries.ShutdownLibraries();
         QCoreApplication::exit(0);
     });
-    basPLOVQuzr::Main(state, libraries);
+    basPLOVQuzr::Main(state, libraries, ahead.get());
+    ahead.reset();
     return app.exec();
 }

@@ -1,6 +1,9 @@
 #include "LoadLibrary.h"
 
+#include <QFile>
 #include <QFileInfo>
+
+#include <dlfcn.h>
 
 void LibraryUnloader::operator()(QLibrary *library) const
 {
@@ -26,4 +29,17 @@ LoadedLibrary LoadLibraryFrom(const QString &absolutePath)
 QString librarySuffix()
 {
     return QStringLiteral(QUIZZARR_LIBRARY_SUFFIX);
+}
+
+PreloadedLibrary::PreloadedLibrary(const QString &absolutePath)
+{
+    const QFileInfo file(absolutePath);
+    if (file.isAbsolute() && file.isFile()) // the same rule as LoadLibraryFrom
+        handle_ = ::dlopen(QFile::encodeName(file.absoluteFilePath()).constData(), RTLD_LAZY | RTLD_LOCAL);
+}
+
+PreloadedLibrary::~PreloadedLibrary()
+{
+    if (handle_)
+        ::dlclose(handle_);
 }

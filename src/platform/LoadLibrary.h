@@ -19,3 +19,17 @@ LoadedLibrary LoadLibraryFrom(const QString &absolutePath);
 
 // The file-name suffix of loadable libraries on this platform (".so").
 QString librarySuffix();
+
+// A library bound ahead of time (on another thread, while the program
+// starts), so that loading it later costs nothing; the binding lasts as long
+// as this object. Nothing happens when the file is missing or unfit.
+class PreloadedLibrary {
+public:
+    explicit PreloadedLibrary(const QString &absolutePath);
+    ~PreloadedLibrary();
+    PreloadedLibrary(const PreloadedLibrary &) = delete;
+    PreloadedLibrary &operator=(const PreloadedLibrary &) = delete;
+
+private:
+    void *handle_ = nullptr;
+};

@@ -4,6 +4,8 @@
 #include "platform/EveryCore.h"
 
 #include <algorithm>
+#include <future>
+#include <system_error>
 
 namespace {
 
@@ -48,21 +50,35 @@ bool IsSetFileName(const QString &name)
     return !name.startsWith(QLatin1Char('.')) && name.endsWith(QStringLiteral(".QZ2"), Qt::CaseInsensitive);
 }
 
-} // namespace
-
-QList<QuestionSetEntry> FindQuestionSets(const QString &folder, int folderCode, DescriptionCache *cache)
+QList<QuestionSetEntry> Describe(const QString &folder, const QList<StampedFile> &files, int folderCode,
+                                 DescriptionCache *cache)
 {
-    QList<QuestionSetEntry> entries;
-    if (folder.isEmpty())
-        return entries;
-    const QList<StampedFile> files = OrdinaryFilesIn(folder, IsSetFileName);
     QList<bool> cached;
     const QStringList descriptions = Descriptions(folder, files, cache, cached);
+    QList<QuestionSetEntry> entries;
     for (qsizetype i = 0; i < files.size(); ++i) {
         if (GameReads::IsQuestionSet(descriptions.at(i)))
             entries.append({files.at(i).name + QLatin1Char('\t') + descriptions.at(i), folderCode, cached.at(i)});
     }
     return entries;
+}
+
+QList<StampedFile> SetFilesIn(const QString &folder)
+{
+    return folder.isEmpty() ? QList<StampedFile>() : OrdinaryFilesIn(folder, IsSetFileName);
+}
+
+void SortEntries(QList<QuestionSetEntry> &entries)
+{
+    std::stable_sort(entries.begin(), entries.end(),
+                     [](const QuestionSetEntry &a, const QuestionSetEntry &b) { return EntryBefore(a.text, b.text); });
+}
+
+} // namespace
+
+QList<QuestionSetEntry> FindQuestionSets(const QString &folder, int folderCode, DescriptionCache *cache)
+{
+    return Describe(folder, SetFilesIn(folder), folderCode, cache);
 }
 
 bool EntryBefore(const QString &a, const QString &b)
@@ -75,14 +91,32 @@ QList<QuestionSetEntry> ListQuestionSets(const QString &programFolder, const QSt
 {
     QList<QuestionSetEntry> entries = FindQuestionSets(programFolder, 0, cache);
     entries += FindQuestionSets(documentsFolder, 1, cache);
-    std::stable_sort(entries.begin(), entries.end(),
-                     [](const QuestionSetEntry &a, const QuestionSetEntry &b) { return EntryBefore(a.text, b.text); });
+    SortEntries(entries);
     return entries;
 }
 
 QString EntryFileName(const QString &text)
 {
     return text.section(QLatin1Char('\t'), 0, 0);
+}
+
+SetListing ListSets(const QString &programFolder, const QString &documentsFolder)
+{
+    SetListing listing{programFolder, documentsFolder, {}, nullptr};
+    // The cache is read while the folders are stamped.
+    const auto read = [] { return std::make_unique<DescriptionCache>(DescriptionCache::defaultFile()); };
+    std::future<std::unique_ptr<DescriptionCache>> reading;
+    try {
+        reading = std::async(std::launch::async, read);
+    } catch (const std::system_error &) {
+    }
+    const QList<StampedFile> programFiles = SetFilesIn(programFolder);
+    const QList<StampedFile> documentFiles = SetFilesIn(documentsFolder);
+    listing.cache = reading.valid() ? reading.get() : read();
+    listing.entries = Describe(programFolder, programFiles, 0, listing.cache.get());
+    listing.entries += Describe(documentsFolder, documentFiles, 1, listing.cache.get());
+    SortEntries(listing.entries);
+    return listing;
 }
 
 int WidestFileName(const QList<QuestionSetEntry> &entries, const QFontMetrics &metrics, DescriptionCache *cache)
@@ -98,8 +132,9 @@ int WidestFileName(const QList<QuestionSetEntry> &entries, const QFontMetrics &m
     const QStringList folders = cache ? cache->listedFolders() : QStringList();
     bool beforeStands = before.width >= 0 && before.measure == measure && before.folders == folders;
     if (beforeStands) {
-        beforeStands = std::any_of(entries.cbegin(), entries.cend(), [&before](const QuestionSetEntry &e) {
-            return e.cached && EntryFileName(e.text) == before.name;
+        const QString prefix = before.name + QLatin1Char('\t');
+        beforeStands = std::any_of(entries.cbegin(), entries.cend(), [&prefix](const QuestionSetEntry &e) {
+            return e.cached && e.text.startsWith(prefix);
         });
     }
     DescriptionCache::WidestName widest{folders, measure, QString(), beforeStands ? before.width : -1};

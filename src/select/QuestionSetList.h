@@ -10,6 +10,8 @@
 #include <QList>
 #include <QString>
 
+#include <memory>
+
 struct QuestionSetEntry {
     QString text;        // file name, tab, description
     int folder = 0;      // 0 program folder, 1 documents folder
@@ -30,6 +32,16 @@ bool EntryBefore(const QString &a, const QString &b);
 
 // The file name of an entry: its text up to the first tab.
 QString EntryFileName(const QString &text);
+
+// The sets of both folders as the home screen lists them, with the user's
+// cache of descriptions that answered (to be saved once the list is shown).
+struct SetListing {
+    QString programFolder;
+    QString documentsFolder;
+    QList<QuestionSetEntry> entries;
+    std::unique_ptr<DescriptionCache> cache;
+};
+SetListing ListSets(const QString &programFolder, const QString &documentsFolder);
 
 // The widest file name of the entries in pixels of these metrics, as the
 // list's column needs it. Measuring ten thousand names takes long, so the

@@ -1,5 +1,7 @@
 #include "PictureLibrary.h"
 
+#include <system_error>
+
 namespace {
 
 bool anySeeThrough(const QImage &image)
@@ -26,9 +28,39 @@ QImage drawable(const QImage &decoded)
                                                                                          : QImage::Format_RGB32);
 }
 
+// The picture with this id from the library's bitmap operation, drawable.
+QImage decode(int32_t (*loadBitmap)(int32_t, const unsigned char **, uint32_t *), int32_t id)
+{
+    const unsigned char *data = nullptr;
+    uint32_t size = 0;
+    if (loadBitmap(id, &data, &size) == 0 && data && size > 0)
+        return drawable(QImage::fromData(data, int(size), "PNG"));
+    return QImage();
+}
+
 } // namespace
 
 PictureLibrary::PictureLibrary(LoadedLibrary library) : library_(std::move(library)) {}
+
+PictureLibrary::~PictureLibrary()
+{
+    // The library's bytes must outlive every decoding of them.
+    for (const auto &decoding : std::as_const(decoding_))
+        decoding.wait();
+}
+
+void PictureLibrary::prefetch(std::initializer_list<int32_t> ids)
+{
+    for (const int32_t id : ids) {
+        if (decoded_.contains(id) || decoding_.contains(id))
+            continue;
+        try {
+            decoding_.insert(id, std::async(std::launch::async, decode, loadBitmap_, id).share());
+        } catch (const std::system_error &) {
+            return; // no thread to be had: decoded when asked
+        }
+    }
+}
 
 std::unique_ptr<PictureLibrary> PictureLibrary::load(const QString &absolutePath)
 {
@@ -48,11 +80,14 @@ QImage PictureLibrary::bitmap(int32_t id) const
     const auto known = decoded_.constFind(id);
     if (known != decoded_.constEnd())
         return *known;
-    const unsigned char *data = nullptr;
-    uint32_t size = 0;
     QImage image;
-    if (loadBitmap_(id, &data, &size) == 0 && data && size > 0)
-        image = drawable(QImage::fromData(data, int(size), "PNG"));
+    const auto decoding = decoding_.constFind(id);
+    if (decoding != decoding_.constEnd()) {
+        image = decoding->get();
+        decoding_.erase(decoding);
+    } else {
+        image = decode(loadBitmap_, id);
+    }
     if (!image.isNull())
         decoded_.insert(id, image);
     return image;

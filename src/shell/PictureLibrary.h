@@ -8,6 +8,8 @@
 #include <QString>
 
 #include <cstdint>
+#include <future>
+#include <initializer_list>
 #include <memory>
 
 class PictureLibrary {
@@ -19,10 +21,17 @@ public:
     // pictures are kept, so a second request costs nothing.
     QImage bitmap(int32_t id) const;
 
+    // Begins decoding these pictures on another core, so that the screen
+    // that first asks finds them ready, or nearly.
+    void prefetch(std::initializer_list<int32_t> ids);
+
+    ~PictureLibrary();
+
 private:
     explicit PictureLibrary(LoadedLibrary library);
 
     LoadedLibrary library_;
     int32_t (*loadBitmap_)(int32_t, const unsigned char **, uint32_t *) = nullptr;
     mutable QHash<int32_t, QImage> decoded_;
+    mutable QHash<int32_t, std::shared_future<QImage>> decoding_;
 };

@@ -10,6 +10,7 @@
 #include "platform/ModuleFileName.h"
 #include "platform/MsgBox.h"
 #include "shell/Libraries.h"
+#include "shell/StartupPrefetch.h"
 #include "select/QuestionSetList.h"
 #include "ui/select/frmSelect.h"
 #include "ui/shell/basPLOVQuzr.h"
@@ -94,14 +95,16 @@ protected:
 // As the game's own main() starts, with the program folder elsewhere.
 int game(int argc, char **argv, const QString &programFolder)
 {
-    QApplication app(argc, argv);
     QApplication::setApplicationName(applicationTitle());
-    QApplication::setQuitOnLastWindowClosed(false);
     ModuleFileName::overrideProgramFolder(programFolder);
+    auto ahead = std::make_unique<StartupPrefetch>();
+    QApplication app(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
     ModuleFileName::declareGameExecutable();
     GameState state;
     Libraries libraries;
-    basPLOVQuzr::Main(state, libraries);
+    basPLOVQuzr::Main(state, libraries, ahead.get());
+    ahead.reset();
     for (QWidget *window : QApplication::topLevelWidgets())
         if (auto *home = qobject_cast<frmSelect *>(window))
             endAtFirstPaint(home->lstQuestions->viewport());

@@ -41,8 +41,8 @@ const QStringList kTeamCounts{
 
 } // namespace
 
-frmSelect::frmSelect(GameState &state, Libraries &libraries, QWidget *parent)
-    : QWidget(parent), state_(state), libraries_(libraries)
+frmSelect::frmSelect(GameState &state, Libraries &libraries, QWidget *parent, SetListing ahead)
+    : QWidget(parent), state_(state), libraries_(libraries), ahead_(std::move(ahead))
 {
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(QStringLiteral("Select the question set to use"));
@@ -124,8 +124,13 @@ void frmSelect::PopulateQZ2()
     lstQuestions->setProperty("programFolder", program);
     // Filled out of sight: the view lays out once, not once per entry.
     lstQuestions->setUpdatesEnabled(false);
-    DescriptionCache cache(DescriptionCache::defaultFile());
-    const QList<QuestionSetEntry> entries = ListQuestionSets(program, documentsFolder(), &cache);
+    const QString documents = documentsFolder();
+    // A listing made ahead serves the first filling, if it is of these folders.
+    SetListing listing = ahead_.cache && ahead_.programFolder == program && ahead_.documentsFolder == documents
+        ? std::move(ahead_)
+        : ListSets(program, documents);
+    ahead_ = {};
+    const QList<QuestionSetEntry> &entries = listing.entries;
     QStringList texts;
     texts.reserve(entries.size());
     for (const QuestionSetEntry &entry : entries)
@@ -138,8 +143,8 @@ void frmSelect::PopulateQZ2()
             lstQuestions->item(int(row))->setData(Qt::UserRole, entries.at(row).folder);
     }
     const QFont font = lstQuestions->font();
-    delegate_->setWidestName(font, WidestFileName(entries, QFontMetrics(font), &cache));
-    cache.save();
+    delegate_->setWidestName(font, WidestFileName(entries, QFontMetrics(font), listing.cache.get()));
+    listing.cache->save();
     lstQuestions->setUpdatesEnabled(true);
     lstQuestions->setCurrentRow(-1);
     lstQuestions->clearSelection();
@@ -312,7 +317,7 @@ void frmSelect::cmdHowToPlay_Click()
 
 void frmSelect::layOut()
 {
-    libraries_.DrawLibraryBitmap(picText, 203);
+    libraries_.DrawLibraryBitmap(picText, kBannerPicture);
     banner_ = libraries_.hPictureLib ? picText.image() : QImage();
     const qreal labelWidth = QFontMetricsF(lblScore->font()).horizontalAdvance(lblScore->text());
     const SelectLayout l = LayOutSelectScreen(QSizeF(size()), picText.height(), cmbScore->sizeHint().height(),

@@ -6,6 +6,7 @@
 #include "ui/board/frmMain.h"
 #include "ui/console/frmConsole.h"
 #include "platform/PictureBox.h"
+#include "select/QuestionSetList.h"
 
 #include <QImage>
 #include <QPointer>
@@ -28,9 +29,13 @@ class frmSelect : public QWidget {
     Q_OBJECT
 public:
     // Form_Load: sized 640 x 480 and centred, the list filled, "Three teams"
-    // chosen and the first entry selected.
-    frmSelect(GameState &state, Libraries &libraries, QWidget *parent = nullptr);
+    // chosen and the first entry selected. A listing made ahead fills the
+    // list if it is of the folders the list shows.
+    frmSelect(GameState &state, Libraries &libraries, QWidget *parent = nullptr, SetListing ahead = {});
     ~frmSelect() override;
+
+    // The library picture across the top of the screen.
+    static constexpr int32_t kBannerPicture = 203;
 
     QListWidget *lstQuestions = nullptr;
     QLabel *lblScore = nullptr;
@@ -112,4 +117,5 @@ private:
     QPointer<frmConsole> console_;
     bool consoleByHand_ = false;
     GameJournal journal_;
+    SetListing ahead_;
 };

@@ -3,6 +3,7 @@
 #include "game/GameState.h"
 #include "platform/MsgBox.h"
 #include "shell/Libraries.h"
+#include "shell/StartupPrefetch.h"
 #include "ui/select/frmSelect.h"
 
 #include <QFont>
@@ -22,7 +23,7 @@ void reportMissing(const QString &path, const char *without)
 
 namespace basPLOVQuzr {
 
-void Main(GameState &state, Libraries &libraries)
+void Main(GameState &state, Libraries &libraries, StartupPrefetch *ahead)
 {
     // The screens are designed in Arial; Liberation Sans has its metrics.
     QFont::insertSubstitution(QStringLiteral("Arial"), QStringLiteral("Liberation Sans"));
@@ -31,7 +32,9 @@ void Main(GameState &state, Libraries &libraries)
 
     const QString pictures = Libraries::PictureLibraryPath();
     libraries.hPictureLib = PictureLibrary::load(pictures);
-    if (!libraries.hPictureLib)
+    if (libraries.hPictureLib)
+        libraries.hPictureLib->prefetch({frmSelect::kBannerPicture}); // while the rest starts
+    else
         reportMissing(pictures, "graphics");
 
     const QString sounds = Libraries::SoundLibraryPath();
@@ -41,7 +44,7 @@ void Main(GameState &state, Libraries &libraries)
 
     state.Round = 1;
     // A game left behind by a crash comes back first, if the host wants it.
-    auto *home = new frmSelect(state, libraries);
+    auto *home = new frmSelect(state, libraries, nullptr, ahead ? ahead->takeSetListing() : SetListing{});
     if (!home->offerResume())
         home->show();
 }

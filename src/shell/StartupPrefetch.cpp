@@ -1,0 +1,40 @@
+#include "StartupPrefetch.h"
+
+#include "Libraries.h"
+#include "platform/LoadLibrary.h"
+#include "platform/SpecialFolders.h"
+#include "platform/clsShellFolders.h"
+#include "platform/ModuleFileName.h"
+
+#include <system_error>
+
+struct StartupPrefetch::Bound {
+    PreloadedLibrary sounds{Libraries::SoundLibraryPath()};
+    PreloadedLibrary pictures{Libraries::PictureLibraryPath()};
+};
+
+StartupPrefetch::StartupPrefetch()
+{
+    // Two threads: binding the libraries waits on the system's loader,
+    // which listing the sets never needs.
+    try {
+        libraries_ = std::async(std::launch::async, [] { return std::make_unique<Bound>(); });
+        listing_ = std::async(std::launch::async, [] {
+            return ListSets(ModuleFileName::programFolder(),
+                            clsShellFolders().GetSpecialFolderLocation(0, SpecialFolders::kDocuments));
+        });
+    } catch (const std::system_error &) {
+        // No thread to be had: the start does it itself, as ever.
+    }
+}
+
+StartupPrefetch::~StartupPrefetch()
+{
+    if (listing_.valid())
+        listing_.wait();
+}
+
+SetListing StartupPrefetch::takeSetListing()
+{
+    return listing_.valid() ? listing_.get() : SetListing{};
+}
