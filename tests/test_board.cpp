@@ -471,12 +471,18 @@ private slots:
         FakeClock clock;
         board->ZoomTV({ZoomSource::Tile, 14}, state_.PicIdFinal);
         QList<QRect> frames;
+        QList<int> pauses;
         clock.onPause = [&](int ms) {
-            QCOMPARE(ms, 16);
+            pauses.append(ms);
             frames.append(board->vseTV->geometry());
         };
+        qint64 start = clock.elapsedMs();
         board->RotateTV(state_.PicIdFinal, state_.PicIdScreen);
         QCOMPARE(frames.size(), 18);
+        // One step per frame of a 60 Hz display: 300 ms in all.
+        for (const int ms : pauses)
+            QVERIFY(ms == 16 || ms == 17);
+        QCOMPARE(clock.elapsedMs() - start, 300);
         const QSize W = board->boardSize().toSize();
         // Folding: ever thinner, centred, down to the sin 10 degrees strip,
         // which the last (zero-height) step leaves in place.
@@ -493,6 +499,29 @@ private slots:
         PictureBox face;
         libraries_.DrawLibraryBitmap(face, state_.PicIdScreen);
         QCOMPARE(board->vseTV->picture(), face.image());
+
+        // A step that paints for longer than its frame is not followed by a
+        // further wait, and the steps after it keep the flip's pace; every
+        // step still pauses (to drop presses).
+        class SlowFifthPaint : public QObject {
+        public:
+            explicit SlowFifthPaint(FakeClock &c) : clock(c) {}
+            FakeClock &clock;
+            int paints = 0;
+            bool eventFilter(QObject *, QEvent *e) override
+            {
+                if (e->type() == QEvent::Paint && ++paints == 5)
+                    clock.advance(40);
+                return false;
+            }
+        } slow(clock);
+        board->vseTV->installEventFilter(&slow);
+        pauses.clear();
+        start = clock.elapsedMs();
+        board->RotateTV(state_.PicIdScreen, state_.PicIdScreen);
+        QCOMPARE(pauses.size(), 18);
+        QCOMPARE(pauses[4], 0);
+        QCOMPARE(clock.elapsedMs() - start, 300);
     }
 
     void loadRetriesSoundThenGoesOnWithout()

@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QDateTime>
+#include <QElapsedTimer>
 #include <QEventLoop>
 #include <QTimer>
 
@@ -11,7 +12,10 @@ namespace {
 
 class SystemClock final : public Clock {
 public:
+    SystemClock() { steady_.start(); }
+
     qint64 now() const override { return QDateTime::currentSecsSinceEpoch(); }
+    qint64 steadyMs() const override { return steady_.elapsed(); }
 
     void pause(int ms) override
     {
@@ -44,6 +48,7 @@ public:
     }
 
 private:
+    QElapsedTimer steady_;
     std::mt19937 engine_{std::random_device{}()};
 };
 

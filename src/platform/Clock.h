@@ -12,6 +12,10 @@ public:
     // Whole seconds since some fixed moment; only differences count.
     virtual qint64 now() const = 0;
 
+    // Milliseconds on a steady clock, for pacing animations; only
+    // differences count.
+    virtual qint64 steadyMs() const = 0;
+
     // Blocks for ms milliseconds. The windows keep painting and timers run;
     // user input that arrives meanwhile is dropped (DroppedInput), so that
     // a press made during an animation never acts after it.

@@ -16,6 +16,7 @@ public:
     ~FakeClock() override;
 
     qint64 now() const override { return startSeconds_ + elapsedMs_ / 1000; }
+    qint64 steadyMs() const override { return elapsedMs_; }
     void pause(int ms) override;
     void waitForEvents(int ms) override;
     double random() override { return engine_() / 4294967296.0; }

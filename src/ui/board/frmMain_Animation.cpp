@@ -14,8 +14,31 @@
 namespace {
 
 constexpr int kZoomPauseMs = 25;
-// About one display frame, so that a flip is seen on a fast machine too.
-constexpr int kFlipFrameMs = 16;
+// A flip shows at most one step per frame of a 60 Hz display, so that it is
+// seen on a fast machine too.
+constexpr int kFlipFramesPerSecond = 60;
+
+// Holds each step of an animation until its frame is due: the time a step
+// takes to paint is part of its frame, not added to it, so a large screen
+// keeps the pace as long as a step paints within a frame.
+class FramePacer {
+public:
+    explicit FramePacer(int framesPerSecond) : perSecond_(framesPerSecond), start_(Clock::instance().steadyMs()) {}
+
+    void waitForNextFrame()
+    {
+        ++frames_;
+        const qint64 due = start_ + (frames_ * 1000 + perSecond_ - 1) / perSecond_;
+        // Always a pause, even a late one of none: presses made meanwhile
+        // are dropped, not left for after the animation.
+        Clock::instance().pause(int(qMax<qint64>(0, due - Clock::instance().steadyMs())));
+    }
+
+private:
+    const qint64 perSecond_;
+    const qint64 start_;
+    qint64 frames_ = 0;
+};
 
 QRect pixels(const QRectF &r)
 {
@@ -82,16 +105,19 @@ void frmMain::RotateTV(qint32 PictureID1, qint32 PictureID2)
     vseTV->setFastScaling(true);
     libraries_.DrawLibraryBitmap(picText, PictureID1);
     vseTV->setPicture(picText.image());
+    FramePacer pacer(kFlipFramesPerSecond);
     for (const QRectF &r : FoldRects(board, vseTV->width())) {
         if (r.height() > 0)
             vseTV->setGeometry(pixels(r));
-        showFrame(kFlipFrameMs);
+        vseTV->repaint();
+        pacer.waitForNextFrame();
     }
     libraries_.DrawLibraryBitmap(picText, PictureID2);
     vseTV->setPicture(picText.image());
     for (const QRectF &r : UnfoldRects(board)) {
         vseTV->setGeometry(pixels(r));
-        showFrame(kFlipFrameMs);
+        vseTV->repaint();
+        pacer.waitForNextFrame();
     }
     vseTV->setFastScaling(false);
 }

@@ -155,7 +155,11 @@ void CaptionControl::compose()
     const qreal dpr = devicePixelRatioF();
     composed_ = QPixmap(size() * dpr);
     composed_.setDevicePixelRatio(dpr);
-    composed_.fill(Qt::transparent);
+    // An opaque face covers it all: the pixmap stays without alpha, and
+    // every later paint copies it instead of blending it, which at 4K is
+    // most of the board's paint.
+    if (!testAttribute(Qt::WA_OpaquePaintEvent))
+        composed_.fill(Qt::transparent);
     composedValid_ = true;
     QPainter p(&composed_);
     if (!picture_.isNull()) {
