@@ -295,6 +295,11 @@ private slots:
         dialogs_->choose(path(QStringLiteral("Pics")));
         editor_->mnuSave->trigger();
         QVERIFY(read(path(QStringLiteral("Pics.QZ2"))).contains("\r\nPicture2=art/flag.png\r\n"));
+        // Saved into another folder, the set takes its picture along.
+        dialogs_->choose(path(QStringLiteral("Documents/Pics")));
+        editor_->mnuSave->trigger();
+        QCOMPARE(read(path(QStringLiteral("Documents/art/flag.png"))), read(path(QStringLiteral("art/flag.png"))));
+        QVERIFY(boxes_->shown.isEmpty());
         editor_->mnuRemovePicture[2]->trigger();
         QCOMPARE(editor_->questionSet.Categories[0][0].Picture[2], QString());
         QVERIFY(editor_->cmdPicture[2]->icon().isNull());

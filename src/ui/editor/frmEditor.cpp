@@ -14,6 +14,7 @@
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QDir>
+#include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
@@ -192,6 +193,18 @@ void frmEditor::mnuSave_Click()
         return;
     }
     Modified.clear();
+    // Saved into another folder (a sample set from the installed program
+    // folder into the documents folder), the set takes the pictures it
+    // names beside it along, as an export does; the set itself is saved
+    // whatever becomes of them.
+    if (CurrentFileBase.contains(QLatin1Char('/'))) {
+        const FileError copy = CopySetPictures(questionSet, QFileInfo(CurrentFileBase).absolutePath(),
+                                               QFileInfo(dialog.FileName()).absolutePath());
+        if (copy)
+            MsgBox(QStringLiteral("The set was saved, but its pictures could not all be copied beside it:\r\n\r\n") +
+                       copy.description,
+                   MsgBoxStyle::OKOnly | MsgBoxStyle::Exclamation, QStringLiteral("Save As..."));
+    }
 }
 
 void frmEditor::mnuExit_Click()
