@@ -295,6 +295,11 @@ private slots:
         dialogs_->choose(path(QStringLiteral("Pics")));
         editor_->mnuSave->trigger();
         QVERIFY(read(path(QStringLiteral("Pics.QZ2"))).contains("\r\nPicture2=art/flag.png\r\n"));
+        // Saved into another folder, the set takes its picture along.
+        dialogs_->choose(path(QStringLiteral("Documents/Pics")));
+        editor_->mnuSave->trigger();
+        QCOMPARE(read(path(QStringLiteral("Documents/art/flag.png"))), read(path(QStringLiteral("art/flag.png"))));
+        QVERIFY(boxes_->shown.isEmpty());
         editor_->mnuRemovePicture[2]->trigger();
         QCOMPARE(editor_->questionSet.Categories[0][0].Picture[2], QString());
         QVERIFY(editor_->cmdPicture[2]->icon().isNull());
@@ -403,25 +408,66 @@ private slots:
     {
         QTest::addColumn<bool>("save");
         QTest::addColumn<QString>("documents");
+        QTest::addColumn<bool>("installed");
         QTest::addColumn<QString>("start");
-        QTest::newRow("open, folder missing: made") << false << "Fresh/Documents" << "Fresh/Documents/";
-        QTest::newRow("save, folder missing: made") << true << "Fresh/Documents" << "Fresh/Documents/";
-        QTest::newRow("open, cannot be made: program folder") << false << "file/Documents" << "";
-        QTest::newRow("save, cannot be made: program folder") << true << "file/Documents" << "";
+        QTest::newRow("open, folder missing: made") << false << "Fresh/Documents" << false << "Fresh/Documents/";
+        QTest::newRow("save, folder missing: made") << true << "Fresh/Documents" << false << "Fresh/Documents/";
+        QTest::newRow("open, cannot be made: program folder") << false << "file/Documents" << false << "program";
+        QTest::newRow("save, cannot be made: program folder") << true << "file/Documents" << false << "program";
+        QTest::newRow("save, read-only program folder: home") << true << "file/Documents" << true << "home";
     }
     void dialogsStartInADocumentsFolderThatExists()
     {
         QFETCH(bool, save);
         QFETCH(QString, documents);
+        QFETCH(bool, installed);
         QFETCH(QString, start);
         QVERIFY(QFile(path(QStringLiteral("file"))).open(QIODevice::WriteOnly)); // a file where a folder would go
         SpecialFolders::overridePath(SpecialFolders::kDocuments, path(documents));
+        const QString program = path(QStringLiteral("program/"));
+        QDir().mkpath(program);
+        QFile::setPermissions(program, installed ? QFileDevice::ReadOwner | QFileDevice::ExeOwner
+                                                 : QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+        ModuleFileName::overrideProgramFolder(program);
         open();
         dialogs_->cancel();
         (save ? editor_->mnuSave : editor_->mnuOpen)->trigger();
-        const QString expected = start.isEmpty() ? ModuleFileName::programFolder() : path(start);
+        ModuleFileName::overrideProgramFolder(QString());
+        const QString expected = start == QStringLiteral("program") ? program
+                                 : start == QStringLiteral("home")  ? QDir::homePath() + QLatin1Char('/')
+                                                                    : path(start);
         QCOMPARE(dialogs_->requests.last().initialDir, expected);
         QVERIFY(QFileInfo(expected).isDir());
+    }
+
+    // Installed, the sample sets lie in a folder the user cannot write to:
+    // whatever would be written beside such a set is proposed in the
+    // documents folder instead, under the same name.
+    void aSetInAReadOnlyFolderIsSavedAmongTheUsersFiles_data()
+    {
+        QTest::addColumn<QString>("action");
+        QTest::newRow("save") << "mnuSave";
+        QTest::newRow("host sheet") << "mnuPrintSheet";
+        QTest::newRow("spreadsheet") << "mnuExportTable";
+    }
+    void aSetInAReadOnlyFolderIsSavedAmongTheUsersFiles()
+    {
+        QFETCH(QString, action);
+        const QString quiz = writeSample();
+        open(quiz);
+        QAction *command = action == QStringLiteral("mnuSave")         ? editor_->mnuSave
+                           : action == QStringLiteral("mnuPrintSheet") ? editor_->mnuPrintSheet
+                                                                       : editor_->mnuExportTable;
+        const QString sets = path(QStringLiteral("Sets/"));
+        for (const bool readOnly : {false, true}) {
+            QFile::setPermissions(sets, readOnly ? QFileDevice::ReadOwner | QFileDevice::ExeOwner
+                                                 : QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+            dialogs_->cancel();
+            command->trigger();
+            QCOMPARE(dialogs_->requests.last().initialDir, readOnly ? path(QStringLiteral("Documents/")) : sets);
+            QVERIFY(dialogs_->requests.last().fileName.startsWith(QStringLiteral("Quiz")));
+        }
+        QFile::setPermissions(sets, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
     }
 
     void failedSaveShowsTheErrorAndKeepsTheSetModified()

@@ -520,13 +520,30 @@ private slots:
 
     void qz2RefusesBadArguments()
     {
-        QByteArray err;
-        QCOMPARE(runQz2({}, nullptr, &err), 2);
+        QByteArray out, err;
+        QCOMPARE(runQz2({}, &out, &err), 2);
         QVERIFY(err.startsWith("usage: qz2 "));
+        QVERIFY(out.isEmpty());
+        QCOMPARE(runQz2({QStringLiteral("--version"), QStringLiteral("x")}), 2);
+        QCOMPARE(runQz2({QStringLiteral("--help"), QStringLiteral("get")}), 2);
         QCOMPARE(runQz2({QStringLiteral("get"), QStringLiteral("a")}), 2);
         QCOMPARE(runQz2({QStringLiteral("frobnicate"), QStringLiteral("a")}), 2);
         QCOMPARE(runQz2({QStringLiteral("show"), dir_.filePath(QStringLiteral("absent.QZ2"))}, nullptr, &err), 1);
         QVERIFY(err.contains("cannot read"));
+    }
+
+    void qz2AnswersHelpAndVersion()
+    {
+        QByteArray out, err;
+        QCOMPARE(runQz2({QStringLiteral("--help")}, &out, &err), 0);
+        QVERIFY(err.isEmpty());
+        QVERIFY(out.startsWith("usage: qz2 "));
+        for (const char *command : {"get", "show", "convert", "check", "sheet", "import", "export"})
+            QVERIFY2(out.contains(QByteArray("\n  ") + command + ' '), command);
+        QVERIFY(out.contains("--version"));
+        QCOMPARE(runQz2({QStringLiteral("--version")}, &out, &err), 0);
+        QCOMPARE(out, QByteArray("qz2 " QUIZZARR_VERSION "\n"));
+        QVERIFY(err.isEmpty());
     }
 
     void sampleSetsAreAllPlayable()

@@ -9,6 +9,7 @@
 #include "ui/shell/basPLOVQuzr.h"
 
 #include <QApplication>
+#include <QIcon>
 
 #include <memory>
 
@@ -20,6 +21,11 @@ int main(int argc, char **argv)
     // to the screen.
     auto ahead = std::make_unique<StartupPrefetch>();
     QApplication app(argc, argv);
+    // Installed, the desktop knows the game by its entry and the icon
+    // theme holds its icon; from a build folder neither is there, and the
+    // window simply goes without.
+    QApplication::setDesktopFileName(QStringLiteral(QUIZZARR_APP_ID));
+    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("quizzarr")));
     // The home screen hides while a game, the editor or the help is open,
     // and message boxes come and go in between: the program ends when the
     // home screen closes, not when no window happens to be open.

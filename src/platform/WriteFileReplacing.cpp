@@ -125,3 +125,11 @@ FileError CopyFileReplacing(const QString &from, const QString &to)
     ::close(in);
     return result;
 }
+
+bool IsWritableFolder(const QString &folder)
+{
+    const QByteArray native = QFile::encodeName(folder);
+    struct stat dir {};
+    return ::stat(native.constData(), &dir) == 0 && S_ISDIR(dir.st_mode) && (dir.st_mode & 0222) != 0 &&
+           ::access(native.constData(), W_OK) == 0;
+}

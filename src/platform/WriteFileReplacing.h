@@ -18,3 +18,9 @@ FileError WriteFileReplacing(const QString &path, const QByteArray &bytes);
 // Copies a whole file byte for byte onto another, replacing it the same
 // safe way. Copying a file onto itself fails and leaves it as it was.
 FileError CopyFileReplacing(const QString &from, const QString &to);
+
+// Whether a new file could be written into the folder: it exists, the
+// system lets this user write there, and it is not marked read-only (which
+// stops the administrator too, as above). An installed program folder is
+// not, for a user.
+bool IsWritableFolder(const QString &folder);

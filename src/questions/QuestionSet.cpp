@@ -178,8 +178,12 @@ FileError WriteQuestionSet(const QuestionSet &set, const QString &FileName)
 
 FileError CopySetPictures(const QString &fromSet, const QString &toSet)
 {
-    const QuestionSet set = LoadQuestionSet(fromSet);
-    const QDir from = QFileInfo(fromSet).absoluteDir(), to = QFileInfo(toSet).absoluteDir();
+    return CopySetPictures(LoadQuestionSet(fromSet), QFileInfo(fromSet).absolutePath(), QFileInfo(toSet).absolutePath());
+}
+
+FileError CopySetPictures(const QuestionSet &set, const QString &fromFolder, const QString &toFolder)
+{
+    const QDir from(fromFolder), to(toFolder);
     if (from == to)
         return {};
     QStringList names;

@@ -60,3 +60,5 @@ FileError WriteQuestionSet(const QuestionSet &set, const QString &FileName);
 // that are not there and a copy onto itself are passed over: the set plays
 // without them. The first failure to write comes back.
 FileError CopySetPictures(const QString &fromSet, const QString &toSet);
+// The same for a set in memory, whose relative names start in fromFolder.
+FileError CopySetPictures(const QuestionSet &set, const QString &fromFolder, const QString &toFolder);

@@ -16,6 +16,21 @@ const char kUsage[] = "usage: qz2 get FILE SECTION KEY DEFAULT | qz2 show FILE |
                       "qz2 sheet SET OUT.pdf | qz2 import TABLE [OUT] [--description TEXT] [--timer SECONDS] | "
                       "qz2 export SET TABLE";
 
+const char kHelp[] = "\n"
+                     "  get FILE SECTION KEY DEFAULT  one value, as the game reads it\n"
+                     "  show FILE                     the whole set as JSON\n"
+                     "  convert IN [OUT]              a set (a legacy .QZA too) in the current layout,\n"
+                     "                                as OUT or beside IN\n"
+                     "  check FILE...                 what the game will make of each file\n"
+                     "  sheet SET OUT.pdf             the host's sheet, to print\n"
+                     "  import TABLE [OUT]            a set from a .csv, .xlsx or .ods table, as OUT or\n"
+                     "                                beside it; --description TEXT, --timer 5-60\n"
+                     "  export SET TABLE              the set as an .xlsx or .csv table\n"
+                     "  --help, --version             this text; the version\n"
+                     "\n"
+                     "Exit status: 0 done, 1 a file could not be read or written or is not playable,\n"
+                     "2 bad arguments.\n";
+
 bool readable(const QString &path, QTextStream &err)
 {
     const QString why = UnreadableFile(path);
@@ -127,6 +142,14 @@ int RunQz2(const QStringList &args, QTextStream &out, QTextStream &err)
 {
     const QString command = args.value(0);
     const QStringList rest = args.mid(1);
+    if (command == QStringLiteral("--help") && rest.isEmpty()) {
+        out << kUsage << "\n" << kHelp;
+        return 0;
+    }
+    if (command == QStringLiteral("--version") && rest.isEmpty()) {
+        out << "qz2 " << QUIZZARR_VERSION << "\n";
+        return 0;
+    }
     if (command == QStringLiteral("get") && rest.size() == 4)
         return get(rest, out, err);
     if (command == QStringLiteral("show") && rest.size() == 1)

@@ -7,11 +7,14 @@
 #include "platform/ModuleFileName.h"
 #include "platform/MsgBox.h"
 #include "platform/SpecialFolders.h"
+#include "platform/WriteFileReplacing.h"
 #include "platform/clsShellFolders.h"
 
 #include <QAction>
 #include <QCloseEvent>
 #include <QComboBox>
+#include <QDir>
+#include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
@@ -132,7 +135,17 @@ void frmEditor::mnuNew_Click()
 QString frmEditor::questionFolder() const
 {
     const QString documents = clsShellFolders().GetExistingSpecialFolder(uintptr_t(winId()), SpecialFolders::kDocuments);
-    return ModuleFileName::withTrailingSeparator(documents.isEmpty() ? ModuleFileName::programFolder() : documents);
+    if (!documents.isEmpty())
+        return ModuleFileName::withTrailingSeparator(documents);
+    const QString program = ModuleFileName::programFolder();
+    return IsWritableFolder(program) ? program : ModuleFileName::withTrailingSeparator(QDir::homePath());
+}
+
+QString frmEditor::saveFolder() const
+{
+    const qsizetype slash = CurrentFileBase.lastIndexOf(QLatin1Char('/'));
+    const QString own = slash >= 0 ? ModuleFileName::withTrailingSeparator(CurrentFileBase.left(slash)) : QString();
+    return !own.isEmpty() && IsWritableFolder(own) ? own : questionFolder();
 }
 
 void frmEditor::mnuOpen_Click()
@@ -159,18 +172,9 @@ void frmEditor::mnuOpen_Click()
 void frmEditor::mnuSave_Click()
 {
     // A set opened from a file is proposed under its own name and folder.
-    QString folder, proposed;
-    const qsizetype slash = CurrentFileBase.lastIndexOf(QLatin1Char('/'));
-    if (slash >= 0) {
-        folder = ModuleFileName::withTrailingSeparator(CurrentFileBase.left(slash));
-        proposed = CurrentFileBase.mid(slash + 1);
-    } else {
-        folder = questionFolder();
-        proposed = CurrentFileBase;
-    }
     clsOpenSaveDlg dialog;
-    dialog.setFileName(proposed);
-    dialog.setInitialDir(folder);
+    dialog.setFileName(CurrentFileBase.mid(CurrentFileBase.lastIndexOf(QLatin1Char('/')) + 1));
+    dialog.setInitialDir(saveFolder());
     dialog.setFilter(QStringLiteral("QZ2 Files (*.QZ2)|*.QZ2"));
     dialog.Flags().setExplorer(true);
     dialog.Flags().setHideReadOnly(true);
@@ -189,6 +193,18 @@ void frmEditor::mnuSave_Click()
         return;
     }
     Modified.clear();
+    // Saved into another folder (a sample set from the installed program
+    // folder into the documents folder), the set takes the pictures it
+    // names beside it along, as an export does; the set itself is saved
+    // whatever becomes of them.
+    if (CurrentFileBase.contains(QLatin1Char('/'))) {
+        const FileError copy = CopySetPictures(questionSet, QFileInfo(CurrentFileBase).absolutePath(),
+                                               QFileInfo(dialog.FileName()).absolutePath());
+        if (copy)
+            MsgBox(QStringLiteral("The set was saved, but its pictures could not all be copied beside it:\r\n\r\n") +
+                       copy.description,
+                   MsgBoxStyle::OKOnly | MsgBoxStyle::Exclamation, QStringLiteral("Save As..."));
+    }
 }
 
 void frmEditor::mnuExit_Click()

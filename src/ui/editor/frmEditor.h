@@ -121,7 +121,14 @@ private:
     // Shows the category's pictures on their buttons.
     void showPictures();
     void setFieldShown(QLineEdit *field, bool shown);
+    // Where the dialogs look for sets and put new files: the documents
+    // folder, else the program folder if it takes files (as when built),
+    // else the home folder.
     QString questionFolder() const;
+    // Where a save, a host sheet or a spreadsheet export is proposed: beside
+    // the set when that folder takes files, else questionFolder() — a set
+    // opened from an installed program folder is saved among the user's.
+    QString saveFolder() const;
 
     bool loaded_ = false;
     QHash<QLineEdit *, QLabel *> captions_;

@@ -6,7 +6,6 @@
 #include "questions/HostSheet.h"
 #include "questions/clsOpenSaveDlg.h"
 
-#include <QDir>
 #include <QFileInfo>
 
 void frmEditor::mnuPrintSheet_Click()
@@ -15,8 +14,7 @@ void frmEditor::mnuPrintSheet_Click()
     clsOpenSaveDlg dialog;
     dialog.setFileName((set.fileName().isEmpty() ? QStringLiteral("Question Set") : set.fileName()) +
                        QStringLiteral(" - host sheet.pdf"));
-    dialog.setInitialDir(CurrentFileBase.contains(QLatin1Char('/')) ? set.absolutePath() + QLatin1Char('/')
-                                                                    : questionFolder());
+    dialog.setInitialDir(saveFolder());
     dialog.setWindowTitle(QStringLiteral("Print Host Sheet"));
     dialog.setFilter(QStringLiteral("PDF Files (*.pdf)|*.pdf"));
     dialog.setDefaultExtension(QStringLiteral("pdf"));

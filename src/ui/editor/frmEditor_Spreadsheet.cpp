@@ -4,7 +4,6 @@
 
 #include "frmEditor.h"
 
-#include "platform/ModuleFileName.h"
 #include "platform/MsgBox.h"
 #include "questions/TableFiles.h"
 #include "questions/clsOpenSaveDlg.h"
@@ -61,12 +60,9 @@ void frmEditor::mnuImportTable_Click()
 
 void frmEditor::mnuExportTable_Click()
 {
-    const qsizetype slash = CurrentFileBase.lastIndexOf(QLatin1Char('/'));
-    const QString folder = slash >= 0 ? ModuleFileName::withTrailingSeparator(CurrentFileBase.left(slash))
-                                      : questionFolder();
     clsOpenSaveDlg dialog;
-    prepare(dialog, uintptr_t(winId()), folder);
-    dialog.setFileName(CurrentFileBase.mid(slash + 1));
+    prepare(dialog, uintptr_t(winId()), saveFolder());
+    dialog.setFileName(CurrentFileBase.mid(CurrentFileBase.lastIndexOf(QLatin1Char('/')) + 1));
     dialog.setFilter(QStringLiteral("Excel Workbook (*.xlsx)|*.xlsx|CSV Text (*.csv)|*.csv"));
     dialog.setDefaultExtension(QStringLiteral("xlsx"));
     dialog.Flags().setNoReadOnlyReturn(true);
