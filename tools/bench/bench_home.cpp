@@ -19,6 +19,8 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QIcon>
+#include <QTimer>
 #include <QKeyEvent>
 #include <QListWidget>
 #include <QProcess>
@@ -99,6 +101,7 @@ int game(int argc, char **argv, const QString &programFolder)
     ModuleFileName::overrideProgramFolder(programFolder);
     auto ahead = std::make_unique<StartupPrefetch>();
     QApplication app(argc, argv);
+    QTimer::singleShot(0, [] { QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("quizzarr"))); });
     QApplication::setQuitOnLastWindowClosed(false);
     ModuleFileName::declareGameExecutable();
     GameState state;
