@@ -282,15 +282,30 @@ private slots:
         flag.fill(Qt::blue);
         QVERIFY(flag.save(path(QStringLiteral("art/flag.png"))));
         open(path(QStringLiteral("Pics.QZ2")));
-        QVERIFY(editor_->cmdPicture[2]->icon().isNull());
+        // Without a picture the button offers one, in a drawing that fits
+        // beside the menu's arrow at any size.
+        const auto offersOne = [this] {
+            return editor_->cmdPicture[2]->toolTip() == QStringLiteral("Choose a picture to show with this clue");
+        };
+        QVERIFY(offersOne());
+        for (const QSize size : {QSize(640, 480), QSize(1920, 1080)}) {
+            editor_->resize(size);
+            const QToolButton *b = editor_->cmdPicture[2];
+            const int arrow = b->style()->pixelMetric(QStyle::PM_MenuButtonIndicator, nullptr, b);
+            const QSize drawn = b->icon().actualSize(b->iconSize());
+            QVERIFY(b->toolButtonStyle() == Qt::ToolButtonIconOnly && !drawn.isEmpty());
+            QVERIFY2(drawn.width() + arrow <= b->width() && drawn.height() <= b->height(),
+                     qPrintable(QStringLiteral("at %1x%2").arg(size.width()).arg(size.height())));
+        }
         dialogs_->choose(path(QStringLiteral("art/flag.png")));
         editor_->cmdPicture[2]->click();
         QCOMPARE(dialogs_->requests.last().flags & 0x1000u, 0x1000u); // the file must exist
         QCOMPARE(editor_->questionSet.Categories[0][0].Picture[2], QStringLiteral("art/flag.png")); // relative to the set
-        QVERIFY(!editor_->cmdPicture[2]->icon().isNull()); // its thumbnail
+        QVERIFY(!offersOne()); // its thumbnail
+        QCOMPARE(editor_->cmdPicture[2]->toolTip(), QStringLiteral("art/flag.png"));
         QCOMPARE(editor_->Modified, QStringLiteral("X"));
         editor_->optCategory[1]->click();
-        QVERIFY(editor_->cmdPicture[2]->icon().isNull()); // another category, its own pictures
+        QVERIFY(offersOne()); // another category, its own pictures
         editor_->optCategory[0]->click();
         dialogs_->choose(path(QStringLiteral("Pics")));
         editor_->mnuSave->trigger();
@@ -302,7 +317,7 @@ private slots:
         QVERIFY(boxes_->shown.isEmpty());
         editor_->mnuRemovePicture[2]->trigger();
         QCOMPARE(editor_->questionSet.Categories[0][0].Picture[2], QString());
-        QVERIFY(editor_->cmdPicture[2]->icon().isNull());
+        QVERIFY(offersOne());
         QCOMPARE(editor_->Modified, QStringLiteral("X"));
     }
 

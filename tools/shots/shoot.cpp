@@ -7,12 +7,15 @@
 //   shoot picture OUT.png [WIDTHxHEIGHT]   a clue with its picture, on the
 //                                          projector (the laptop's size is
 //                                          then the projector's)
+//   shoot editor OUT.png [WIDTHxHEIGHT]    the editor on the picture sample
+//                                          set, maximized on the laptop
 
 #include "game/GameState.h"
 #include "platform/ModuleFileName.h"
 #include "shell/Libraries.h"
 #include "ui/board/frmMain.h"
 #include "ui/console/frmConsole.h"
+#include "ui/editor/frmEditor.h"
 #include "ui/controls/CommandButton.h"
 #include "ui/select/frmSelect.h"
 #include "ui/shell/basPLOVQuzr.h"
@@ -54,8 +57,9 @@ T *find()
 int main(int argc, char **argv)
 {
     const QString what = QString::fromLocal8Bit(argc > 1 ? argv[1] : "");
-    if (argc < 3 || (what != QStringLiteral("console") && what != QStringLiteral("picture"))) {
-        fprintf(stderr, "usage: shoot console|picture OUT.png [WIDTHxHEIGHT]\n");
+    if (argc < 3 || (what != QStringLiteral("console") && what != QStringLiteral("picture") &&
+                     what != QStringLiteral("editor"))) {
+        fprintf(stderr, "usage: shoot console|picture|editor OUT.png [WIDTHxHEIGHT]\n");
         return 2;
     }
     const bool picture = what == QStringLiteral("picture");
@@ -67,6 +71,15 @@ int main(int argc, char **argv)
                                                          : QSize(1024, 768)).toLocal8Bit());
     QApplication app(argc, argv);
     ModuleFileName::overrideProgramFolder(QStringLiteral(QUIZZARR_PROGRAM_DIR));
+
+    if (what == QStringLiteral("editor")) {
+        QFont::insertSubstitution(QStringLiteral("Arial"), QStringLiteral("Liberation Sans"));
+        frmEditor editor;
+        editor.showMaximized();
+        editor.LoadQuestionSet(QStringLiteral(QUIZZARR_PROGRAM_DIR "/") + (argc > 4 ? QString::fromLocal8Bit(argv[4]) : QStringLiteral("Pictures.QZ2")));
+        QApplication::processEvents();
+        return editor.grab().save(QString::fromLocal8Bit(argv[2])) ? 0 : 1;
+    }
 
     GameState state;
     Libraries libraries;

@@ -275,6 +275,12 @@ void frmEditor::txtSecs_LostFocus()
 
 bool frmEditor::eventFilter(QObject *watched, QEvent *event)
 {
+    if (event->type() == QEvent::Resize) {
+        for (QToolButton *button : cmdPicture) {
+            if (watched == button)
+                button->setIconSize(button->size() - QSize(12, 6));
+        }
+    }
     // A key press or a turn of the wheel on a list acts once, whether or not
     // it changes the count: the list does its part quietly, then the
     // handler runs.

@@ -9,6 +9,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QPainter>
 #include <QImageReader>
 #include <QMenu>
 #include <QToolButton>
@@ -30,6 +31,30 @@ QIcon thumbnail(const QString &path, QSize size)
     return image.isNull() ? QIcon() : QIcon(QPixmap::fromImage(image));
 }
 
+// What the button offers while a clue has no picture: the outline of one
+// (a frame, a sun, two hills), which reads at any size where the word
+// "Picture..." did not fit beside the menu's arrow.
+QIcon noPicture()
+{
+    const QSize size(240, 180); // drawn large once, shown smaller
+    QPixmap pixmap(size);
+    pixmap.fill(Qt::transparent);
+    const qreal unit = size.width() / 8.0;
+    QPainter p(&pixmap);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.translate(size.width() / 2.0, size.height() / 2.0);
+    const QColor ink(90, 90, 90);
+    p.setPen(QPen(ink, qMax<qreal>(1.0, unit * 0.4)));
+    p.drawRoundedRect(QRectF(-3.5 * unit, -2.6 * unit, 7 * unit, 5.2 * unit), unit * 0.5, unit * 0.5);
+    p.setPen(Qt::NoPen);
+    p.setBrush(ink);
+    p.drawEllipse(QPointF(1.6 * unit, -1.1 * unit), 0.65 * unit, 0.65 * unit);
+    p.drawPolygon(QPolygonF({QPointF(-2.9 * unit, 2.0 * unit), QPointF(-1.0 * unit, -0.4 * unit),
+                             QPointF(0.4 * unit, 1.0 * unit), QPointF(1.3 * unit, 0.2 * unit),
+                             QPointF(2.9 * unit, 2.0 * unit)}));
+    return QIcon(pixmap);
+}
+
 } // namespace
 
 void frmEditor::createPictureButtons()
@@ -44,6 +69,7 @@ void frmEditor::createPictureButtons()
         button->setMenu(menu);
         connect(button, &QToolButton::clicked, this, [this, j] { cmdPicture_Click(j); });
         vseMain->addChild(button, QRectF(kPictureLeft, kClueRows[j], kPictureWidth, kTwoRows));
+        button->installEventFilter(this); // its picture grows and shrinks with it
         cmdPicture[size_t(j)] = button;
     }
 }
@@ -57,10 +83,12 @@ void frmEditor::showPictures()
         const QString name = shownCategory().Picture[size_t(j)];
         const QString path = setFile.isEmpty() && QFileInfo(name).isRelative() ? QString() : GameReads::PicturePath(setFile, name);
         const QIcon icon = name.isEmpty() ? QIcon() : thumbnail(path, button->size() * 2);
-        button->setIcon(icon);
-        button->setIconSize(button->size() - QSize(12, 6));
+        const QSize room = button->size() - QSize(12, 6);
+        static const QIcon none = noPicture();
+        button->setIcon(name.isEmpty() ? none : icon);
+        button->setIconSize(room);
         button->setText(name.isEmpty() ? QStringLiteral("Picture...") : icon.isNull() ? QStringLiteral("?") : QString());
-        button->setToolButtonStyle(icon.isNull() ? Qt::ToolButtonTextOnly : Qt::ToolButtonIconOnly);
+        button->setToolButtonStyle(!name.isEmpty() && icon.isNull() ? Qt::ToolButtonTextOnly : Qt::ToolButtonIconOnly);
         button->setToolTip(name.isEmpty() ? QStringLiteral("Choose a picture to show with this clue")
                                           : name + (icon.isNull() ? QStringLiteral(" (not found)") : QString()));
         mnuRemovePicture[size_t(j)]->setEnabled(!name.isEmpty());
