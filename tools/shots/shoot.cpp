@@ -65,6 +65,10 @@ int main(int argc, char **argv)
     const bool picture = what == QStringLiteral("picture");
     const QStringList size = QString::fromLocal8Bit(argc > 3 ? argv[3] : "1366x768").split(QLatin1Char('x'));
     QTemporaryDir work;
+    // A user of its own: no game left behind by an earlier shot comes back
+    // to be resumed, and nothing is left behind for the next.
+    qputenv("XDG_DATA_HOME", work.path().toLocal8Bit());
+    qputenv("XDG_CACHE_HOME", work.path().toLocal8Bit());
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" +
                                    screensConfig(work.path(), size.value(0).toInt(), size.value(1).toInt(),
                                                  picture ? QSize(size.value(0).toInt(), size.value(1).toInt())
