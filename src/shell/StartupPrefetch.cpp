@@ -6,6 +6,8 @@
 #include "platform/clsShellFolders.h"
 #include "platform/ModuleFileName.h"
 
+#include <QThread>
+
 #include <system_error>
 
 struct StartupPrefetch::Bound {
@@ -15,6 +17,9 @@ struct StartupPrefetch::Bound {
 
 StartupPrefetch::StartupPrefetch()
 {
+    // Qt takes the first thread that makes a QObject for its main thread:
+    // this one must be known before the helpers make theirs.
+    QThread::currentThread();
     // Two threads: binding the libraries waits on the system's loader,
     // which listing the sets never needs.
     try {

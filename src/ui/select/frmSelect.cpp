@@ -74,7 +74,11 @@ void frmSelect::createControls()
 
     lblScore = new QLabel(QStringLiteral("Keep score for:"), this);
     lblScore->setFont(ArialFont(12));
-    lblScore->setStyleSheet(QStringLiteral("color: white; background: transparent;"));
+    // White on the backdrop; a palette, not a style sheet, which would
+    // bring Qt's style sheet machinery into the start for one colour.
+    QPalette white = lblScore->palette();
+    white.setColor(QPalette::WindowText, Qt::white);
+    lblScore->setPalette(white);
     cmbScore = new QComboBox(this);
     cmbScore->setFont(ArialFont(9.75));
     cmbScore->addItems(kTeamCounts);
