@@ -27,6 +27,7 @@
 #include "shell/basDetectDevEnv.h"
 #include "game/GameState.h"
 #include "shell/Libraries.h"
+#include "shell/StartupPrefetch.h"
 
 #include <QComboBox>
 #include <QLineEdit>
@@ -322,6 +323,32 @@ private slots:
         a.close();
         QCOMPARE(widest(font, otherProgram.path() + QLatin1Char('/')), width("a.QZ2"));
         QCOMPARE(widest(font, program_->path()), width("Much longer name.QZ2"));
+    }
+
+    // The sets listed on another core at start fill the home screen only
+    // when they are of the very folders it shows; a refill reads afresh.
+    void listingMadeAheadServesOnlyItsFolders()
+    {
+        program_->write(QStringLiteral("real.QZ2"), playable("Real"));
+        const auto ahead = [](const QString &program, const QString &documents) {
+            return SetListing{program, documents, {{QStringLiteral("ahead.QZ2\tMade ahead"), 0, false}},
+                              std::make_unique<DescriptionCache>(QString())};
+        };
+        home_ = new frmSelect(state_, libraries_, nullptr, ahead(program_->path(), docs()));
+        QCOMPARE(texts(home_->lstQuestions), QStringList{QStringLiteral("ahead.QZ2\tMade ahead")});
+        home_->PopulateQZ2();
+        QCOMPARE(texts(home_->lstQuestions), QStringList{QStringLiteral("real.QZ2\tReal")});
+        delete home_.data();
+        home_ = new frmSelect(state_, libraries_, nullptr, ahead(QStringLiteral("/elsewhere/"), docs()));
+        QCOMPARE(texts(home_->lstQuestions), QStringList{QStringLiteral("real.QZ2\tReal")});
+
+        StartupPrefetch start;
+        const SetListing listed = start.takeSetListing();
+        QCOMPARE(listed.programFolder, program_->path());
+        QCOMPARE(listed.documentsFolder, docs());
+        QCOMPARE(listed.entries.size(), 1);
+        QCOMPARE(listed.entries.first().text, QStringLiteral("real.QZ2\tReal"));
+        QVERIFY(!start.takeSetListing().cache); // once only
     }
 
     void vanishedFilesLeaveTheList()

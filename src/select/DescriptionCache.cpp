@@ -87,6 +87,8 @@ private:
 
 DescriptionCache::DescriptionCache(QString file, qint64 nowNs) : file_(std::move(file)), nowNs_(nowNs)
 {
+    if (file_.isEmpty()) // a cache of this listing only
+        return;
     QFile f(file_);
     if (f.size() > kMostBytes || !f.open(QIODevice::ReadOnly))
         return;

@@ -13,7 +13,8 @@
 class DescriptionCache {
 public:
     // Reads the cache file; one that is missing, damaged or foreign counts
-    // as empty. nowNs is the time of this listing.
+    // as empty; no file at all makes a cache of one listing, kept nowhere.
+    // nowNs is the time of this listing.
     explicit DescriptionCache(QString file, qint64 nowNs = StampClockNowNs());
 
     // The cache file of this user.
