@@ -18,8 +18,9 @@ namespace {
 
 constexpr char kMark[8] = {'Q', 'Z', 'D', 'C', '0', '0', '0', '2'};
 constexpr qint64 kSettledNs = 2'000'000'000;
-// Far beyond any real cache: a larger file is not read at all.
-constexpr qint64 kMostBytes = 512 * 1024 * 1024;
+// Far beyond any real cache (some 400,000 sets): a larger file is not
+// read at all.
+constexpr qint64 kMostBytes = 64 * 1024 * 1024;
 // Folders not listed this time (another program folder, say) are kept, the
 // most recently listed first, up to this many.
 constexpr int kOtherFolders = 4;
