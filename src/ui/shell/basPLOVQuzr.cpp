@@ -5,10 +5,15 @@
 #include "shell/Libraries.h"
 #include "shell/StartupPrefetch.h"
 #include "ui/select/frmSelect.h"
+#include "ui/controls/FormLook.h"
 
 #include <QFont>
+#include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QScreen>
+
+#include <future>
+#include <system_error>
 
 namespace {
 
@@ -27,6 +32,16 @@ void Main(GameState &state, Libraries &libraries, StartupPrefetch *ahead)
 {
     // The screens are designed in Arial; Liberation Sans has its metrics.
     QFont::insertSubstitution(QStringLiteral("Arial"), QStringLiteral("Liberation Sans"));
+    // The font database fills and the screens' face loads on the other core
+    // while the libraries bind and the home screen is built; whichever
+    // thread asks first, the other finds it done.
+    std::future<void> fonts;
+    try {
+        fonts = std::async(std::launch::async, [] {
+            QFontMetricsF(ArialFont(9.75)).horizontalAdvance(QStringLiteral("Keep score for:"));
+        });
+    } catch (const std::system_error &) {
+    }
     const QScreen *screen = QGuiApplication::primaryScreen();
     state.choosePictures(pictureIdsForScreenWidth(screen ? screen->size().width() : 1024.0));
 
