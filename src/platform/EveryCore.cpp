@@ -2,8 +2,6 @@
 
 #include <QThread>
 
-#include <future>
-#include <system_error>
 #include <vector>
 
 void OnEveryCore(qsizetype count, qsizetype minimumPerCore, const std::function<void(qsizetype, qsizetype)> &work)
@@ -14,11 +12,11 @@ void OnEveryCore(qsizetype count, qsizetype minimumPerCore, const std::function<
     std::vector<std::future<void>> others;
     for (qsizetype from = share; from < count; from += share) {
         const qsizetype to = qMin(from + share, count);
-        try {
-            others.push_back(std::async(std::launch::async, work, from, to));
-        } catch (const std::system_error &) { // no thread to be had: the work is done here
+        std::future<void> other = OnAnotherCore([&work, from, to] { work(from, to); });
+        if (other.valid())
+            others.push_back(std::move(other));
+        else
             work(from, to);
-        }
     }
     work(0, qMin(share, count));
     for (auto &other : others)

@@ -4,8 +4,6 @@
 #include "platform/EveryCore.h"
 
 #include <algorithm>
-#include <future>
-#include <system_error>
 
 namespace {
 
@@ -68,18 +66,19 @@ QList<StampedFile> SetFilesIn(const QString &folder)
     return folder.isEmpty() ? QList<StampedFile>() : OrdinaryFilesIn(folder, IsSetFileName);
 }
 
-void SortEntries(QList<QuestionSetEntry> &entries)
+// Both folders' stamped files described and sorted as the list shows them.
+QList<QuestionSetEntry> Listed(const QString &programFolder, const QList<StampedFile> &programFiles,
+                               const QString &documentsFolder, const QList<StampedFile> &documentFiles,
+                               DescriptionCache *cache)
 {
+    QList<QuestionSetEntry> entries = Describe(programFolder, programFiles, 0, cache);
+    entries += Describe(documentsFolder, documentFiles, 1, cache);
     std::stable_sort(entries.begin(), entries.end(),
                      [](const QuestionSetEntry &a, const QuestionSetEntry &b) { return EntryBefore(a.text, b.text); });
+    return entries;
 }
 
 } // namespace
-
-QList<QuestionSetEntry> FindQuestionSets(const QString &folder, int folderCode, DescriptionCache *cache)
-{
-    return Describe(folder, SetFilesIn(folder), folderCode, cache);
-}
 
 bool EntryBefore(const QString &a, const QString &b)
 {
@@ -89,10 +88,7 @@ bool EntryBefore(const QString &a, const QString &b)
 QList<QuestionSetEntry> ListQuestionSets(const QString &programFolder, const QString &documentsFolder,
                                          DescriptionCache *cache)
 {
-    QList<QuestionSetEntry> entries = FindQuestionSets(programFolder, 0, cache);
-    entries += FindQuestionSets(documentsFolder, 1, cache);
-    SortEntries(entries);
-    return entries;
+    return Listed(programFolder, SetFilesIn(programFolder), documentsFolder, SetFilesIn(documentsFolder), cache);
 }
 
 QString EntryFileName(const QString &text)
@@ -102,20 +98,13 @@ QString EntryFileName(const QString &text)
 
 SetListing ListSets(const QString &programFolder, const QString &documentsFolder)
 {
-    SetListing listing{programFolder, documentsFolder, {}, nullptr};
     // The cache is read while the folders are stamped.
     const auto read = [] { return std::make_unique<DescriptionCache>(DescriptionCache::defaultFile()); };
-    std::future<std::unique_ptr<DescriptionCache>> reading;
-    try {
-        reading = std::async(std::launch::async, read);
-    } catch (const std::system_error &) {
-    }
+    std::future<std::unique_ptr<DescriptionCache>> reading = OnAnotherCore(read);
     const QList<StampedFile> programFiles = SetFilesIn(programFolder);
     const QList<StampedFile> documentFiles = SetFilesIn(documentsFolder);
-    listing.cache = reading.valid() ? reading.get() : read();
-    listing.entries = Describe(programFolder, programFiles, 0, listing.cache.get());
-    listing.entries += Describe(documentsFolder, documentFiles, 1, listing.cache.get());
-    SortEntries(listing.entries);
+    SetListing listing{programFolder, documentsFolder, {}, reading.valid() ? reading.get() : read()};
+    listing.entries = Listed(programFolder, programFiles, documentsFolder, documentFiles, listing.cache.get());
     return listing;
 }
 

@@ -18,12 +18,10 @@ struct QuestionSetEntry {
     bool cached = false; // as the cache knew it
 };
 
-// Entries of one folder (ending in "/"), in the order the file system
-// gives them: ordinary files only, hidden ones left out. A cache, when
-// given, answers for unchanged files and learns the rest.
-QList<QuestionSetEntry> FindQuestionSets(const QString &folder, int folderCode, DescriptionCache *cache = nullptr);
-
-// The whole list, sorted by text without regard to letter case.
+// The whole list, sorted by text without regard to letter case: of each
+// folder (ending in "/") its ordinary files, hidden ones left out, that
+// have a description. A cache, when given, answers for unchanged files and
+// learns the rest.
 QList<QuestionSetEntry> ListQuestionSets(const QString &programFolder, const QString &documentsFolder,
                                          DescriptionCache *cache = nullptr);
 

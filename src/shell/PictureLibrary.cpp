@@ -1,6 +1,6 @@
 #include "PictureLibrary.h"
 
-#include <system_error>
+#include "platform/EveryCore.h"
 
 namespace {
 
@@ -54,11 +54,10 @@ void PictureLibrary::prefetch(std::initializer_list<int32_t> ids)
     for (const int32_t id : ids) {
         if (decoded_.contains(id) || decoding_.contains(id))
             continue;
-        try {
-            decoding_.insert(id, std::async(std::launch::async, decode, loadBitmap_, id).share());
-        } catch (const std::system_error &) {
+        std::future<QImage> decoding = OnAnotherCore([load = loadBitmap_, id] { return decode(load, id); });
+        if (!decoding.valid())
             return; // no thread to be had: decoded when asked
-        }
+        decoding_.insert(id, decoding.share());
     }
 }
 

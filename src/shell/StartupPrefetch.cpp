@@ -1,14 +1,13 @@
 #include "StartupPrefetch.h"
 
 #include "Libraries.h"
+#include "platform/EveryCore.h"
 #include "platform/LoadLibrary.h"
 #include "platform/SpecialFolders.h"
 #include "platform/clsShellFolders.h"
 #include "platform/ModuleFileName.h"
 
 #include <QThread>
-
-#include <system_error>
 
 struct StartupPrefetch::Bound {
     PreloadedLibrary sounds{Libraries::SoundLibraryPath()};
@@ -21,16 +20,13 @@ StartupPrefetch::StartupPrefetch()
     // this one must be known before the helpers make theirs.
     QThread::currentThread();
     // Two threads: binding the libraries waits on the system's loader,
-    // which listing the sets never needs.
-    try {
-        libraries_ = std::async(std::launch::async, [] { return std::make_unique<Bound>(); });
-        listing_ = std::async(std::launch::async, [] {
-            return ListSets(ModuleFileName::programFolder(),
-                            clsShellFolders().GetSpecialFolderLocation(0, SpecialFolders::kDocuments));
-        });
-    } catch (const std::system_error &) {
-        // No thread to be had: the start does it itself, as ever.
-    }
+    // which listing the sets never needs. Without threads the start does
+    // it all itself, as ever.
+    libraries_ = OnAnotherCore([] { return std::make_unique<Bound>(); });
+    listing_ = OnAnotherCore([] {
+        return ListSets(ModuleFileName::programFolder(),
+                        clsShellFolders().GetSpecialFolderLocation(0, SpecialFolders::kDocuments));
+    });
 }
 
 StartupPrefetch::~StartupPrefetch()

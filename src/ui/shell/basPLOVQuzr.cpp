@@ -1,6 +1,7 @@
 #include "basPLOVQuzr.h"
 
 #include "game/GameState.h"
+#include "platform/EveryCore.h"
 #include "platform/MsgBox.h"
 #include "shell/Libraries.h"
 #include "shell/StartupPrefetch.h"
@@ -12,8 +13,6 @@
 #include <QGuiApplication>
 #include <QScreen>
 
-#include <future>
-#include <system_error>
 
 namespace {
 
@@ -35,13 +34,9 @@ void Main(GameState &state, Libraries &libraries, StartupPrefetch *ahead)
     // The font database fills and the screens' face loads on the other core
     // while the libraries bind and the home screen is built; whichever
     // thread asks first, the other finds it done.
-    std::future<void> fonts;
-    try {
-        fonts = std::async(std::launch::async, [] {
-            QFontMetricsF(ArialFont(9.75)).horizontalAdvance(QStringLiteral("Keep score for:"));
-        });
-    } catch (const std::system_error &) {
-    }
+    const std::future<void> fonts = OnAnotherCore([] {
+        QFontMetricsF(ArialFont(9.75)).horizontalAdvance(QStringLiteral("Keep score for:"));
+    });
     const QScreen *screen = QGuiApplication::primaryScreen();
     state.choosePictures(pictureIdsForScreenWidth(screen ? screen->size().width() : 1024.0));
 
