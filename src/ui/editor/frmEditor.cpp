@@ -169,20 +169,25 @@ void frmEditor::mnuOpen_Click()
     LoadQuestionSet(dialog.FileName());
 }
 
+void frmEditor::prepareDialog(clsOpenSaveDlg &dialog, const QString &folder)
+{
+    dialog.setHwndOwner(uintptr_t(winId()));
+    dialog.setInitialDir(folder);
+    dialog.Flags().setExplorer(true);
+    dialog.Flags().setHideReadOnly(true);
+    dialog.Flags().setLongNames(true);
+}
+
 void frmEditor::mnuSave_Click()
 {
     // A set opened from a file is proposed under its own name and folder.
     clsOpenSaveDlg dialog;
     dialog.setFileName(CurrentFileBase.mid(CurrentFileBase.lastIndexOf(QLatin1Char('/')) + 1));
-    dialog.setInitialDir(saveFolder());
+    prepareDialog(dialog, saveFolder());
     dialog.setFilter(QStringLiteral("QZ2 Files (*.QZ2)|*.QZ2"));
-    dialog.Flags().setExplorer(true);
-    dialog.Flags().setHideReadOnly(true);
-    dialog.Flags().setLongNames(true);
     dialog.Flags().setNoChangeDir(true);
     dialog.Flags().setNoReadOnlyReturn(true);
     dialog.Flags().setOverwritePrompt(true);
-    dialog.setHwndOwner(uintptr_t(winId()));
     if (!dialog.ShowSaveAs() || dialog.FileName().isEmpty())
         return;
     const FileError error = WriteQuestionSet(questionSet, dialog.FileName());

@@ -26,6 +26,8 @@ class QLineEdit;
 class QPushButton;
 class QToolButton;
 
+class clsOpenSaveDlg;
+
 class frmEditor : public QMainWindow {
     Q_OBJECT
 public:
@@ -129,6 +131,9 @@ private:
     // the set when that folder takes files, else questionFolder() — a set
     // opened from an installed program folder is saved among the user's.
     QString saveFolder() const;
+    // What every file dialog of the editor shares: this window as owner,
+    // the folder it opens in, Explorer style, long names, no read-only box.
+    void prepareDialog(clsOpenSaveDlg &dialog, const QString &folder);
 
     bool loaded_ = false;
     QHash<QLineEdit *, QLabel *> captions_;

@@ -102,12 +102,8 @@ void frmEditor::cmdPicture_Click(int j)
     dialog.setFilter(QStringLiteral("Pictures (*.png;*.jpg;*.jpeg;*.gif;*.svg;*.bmp)|*.png;*.jpg;*.jpeg;*.gif;*.svg;*.bmp"));
     const QString folder = CurrentFileBase.contains(QLatin1Char('/')) ? QFileInfo(CurrentFileBase).absolutePath() + QLatin1Char('/')
                                                                      : questionFolder();
-    dialog.setInitialDir(folder);
-    dialog.Flags().setExplorer(true);
-    dialog.Flags().setHideReadOnly(true);
-    dialog.Flags().setLongNames(true);
+    prepareDialog(dialog, folder);
     dialog.Flags().setFileMustExist(true);
-    dialog.setHwndOwner(uintptr_t(winId()));
     if (!dialog.ShowOpen() || dialog.FileName().isEmpty())
         return;
     // Beside the set (or in a folder below it) the name is kept relative,

@@ -14,17 +14,13 @@ void frmEditor::mnuPrintSheet_Click()
     clsOpenSaveDlg dialog;
     dialog.setFileName((set.fileName().isEmpty() ? QStringLiteral("Question Set") : set.fileName()) +
                        QStringLiteral(" - host sheet.pdf"));
-    dialog.setInitialDir(saveFolder());
+    prepareDialog(dialog, saveFolder());
     dialog.setWindowTitle(QStringLiteral("Print Host Sheet"));
     dialog.setFilter(QStringLiteral("PDF Files (*.pdf)|*.pdf"));
     dialog.setDefaultExtension(QStringLiteral("pdf"));
-    dialog.Flags().setExplorer(true);
-    dialog.Flags().setHideReadOnly(true);
-    dialog.Flags().setLongNames(true);
     dialog.Flags().setNoReadOnlyReturn(true);
     dialog.Flags().setOverwritePrompt(true);
     dialog.Flags().setPathMustExist(true);
-    dialog.setHwndOwner(uintptr_t(winId()));
     if (!dialog.ShowSaveAs() || dialog.FileName().isEmpty())
         return;
     const FileError error = WriteHostSheet(questionSet, dialog.FileName());

@@ -15,17 +15,6 @@ namespace {
 const QString kImportCaption = QStringLiteral("Import Spreadsheet");
 const QString kExportCaption = QStringLiteral("Export Spreadsheet");
 
-void prepare(clsOpenSaveDlg &dialog, uintptr_t owner, const QString &folder)
-{
-    dialog.setHwndOwner(owner);
-    dialog.setInitialDir(folder);
-    dialog.Flags().setExplorer(true);
-    dialog.Flags().setHideReadOnly(true);
-    dialog.Flags().setLongNames(true);
-    dialog.Flags().setNoChangeDir(true);
-    dialog.Flags().setAllowMultiSelect(false);
-}
-
 } // namespace
 
 void frmEditor::mnuImportTable_Click()
@@ -33,7 +22,9 @@ void frmEditor::mnuImportTable_Click()
     if (!modifiedCheck(kImportCaption))
         return;
     clsOpenSaveDlg dialog;
-    prepare(dialog, uintptr_t(winId()), questionFolder());
+    prepareDialog(dialog, questionFolder());
+    dialog.Flags().setNoChangeDir(true);
+    dialog.Flags().setAllowMultiSelect(false);
     dialog.setFileName(QString());
     dialog.setFilter(QStringLiteral("Spreadsheets (*.csv;*.xlsx;*.ods)|*.csv;*.xlsx;*.ods"));
     dialog.Flags().setFileMustExist(true);
@@ -61,7 +52,9 @@ void frmEditor::mnuImportTable_Click()
 void frmEditor::mnuExportTable_Click()
 {
     clsOpenSaveDlg dialog;
-    prepare(dialog, uintptr_t(winId()), saveFolder());
+    prepareDialog(dialog, saveFolder());
+    dialog.Flags().setNoChangeDir(true);
+    dialog.Flags().setAllowMultiSelect(false);
     dialog.setFileName(CurrentFileBase.mid(CurrentFileBase.lastIndexOf(QLatin1Char('/')) + 1));
     dialog.setFilter(QStringLiteral("Excel Workbook (*.xlsx)|*.xlsx|CSV Text (*.csv)|*.csv"));
     dialog.setDefaultExtension(QStringLiteral("xlsx"));
