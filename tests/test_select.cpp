@@ -7,6 +7,7 @@
 #include "ScriptedFileDialog.h"
 #include "ScriptedMsgBox.h"
 #include "TestFolder.h"
+#include "TestSets.h"
 
 #include "ui/controls/ShadowLabel.h"
 #include "game/GameJournal.h"
@@ -27,7 +28,6 @@
 #include "shell/basDetectDevEnv.h"
 #include "game/GameState.h"
 #include "shell/Libraries.h"
-#include "shell/StartupPrefetch.h"
 
 #include <QComboBox>
 #include <QLineEdit>
@@ -37,16 +37,7 @@
 #include <QPushButton>
 #include <QtTest>
 
-#include <fcntl.h>
-#include <sys/stat.h>
-
 namespace {
-
-QByteArray playable(const QByteArray &description)
-{
-    return "[Round1]\r\nDescription=" + description + "\r\nCategory0=Rivers\r\n\r\n[Round1Category0]\r\n"
-           "Answer0=a\r\nQuestion0=q\r\n";
-}
 
 QStringList texts(const QListWidget *list)
 {
@@ -139,19 +130,19 @@ private slots:
 
     void listsSetsOfBothFoldersSortedWithoutCase()
     {
-        program_->write(QStringLiteral("b.QZ2"), playable("Program b"));
-        program_->write(QStringLiteral("c.Qz2"), playable("See"));
-        program_->write(QStringLiteral("d.qz2.bak"), playable("backup"));
-        program_->write(QStringLiteral("e.qz"), playable("short"));
-        program_->write(QStringLiteral(".hidden.QZ2"), playable("hidden"));
-        program_->write(QStringLiteral("folder.QZ2/inside.QZ2"), playable("in a folder"));
-        program_->write(QStringLiteral("g.QZ2"), playable("-NONE-"));
-        program_->write(QStringLiteral("h.QZ2"), playable("-none-"));
+        program_->write(QStringLiteral("b.QZ2"), playableSet("Program b"));
+        program_->write(QStringLiteral("c.Qz2"), playableSet("See"));
+        program_->write(QStringLiteral("d.qz2.bak"), playableSet("backup"));
+        program_->write(QStringLiteral("e.qz"), playableSet("short"));
+        program_->write(QStringLiteral(".hidden.QZ2"), playableSet("hidden"));
+        program_->write(QStringLiteral("folder.QZ2/inside.QZ2"), playableSet("in a folder"));
+        program_->write(QStringLiteral("g.QZ2"), playableSet("-NONE-"));
+        program_->write(QStringLiteral("h.QZ2"), playableSet("-none-"));
         program_->write(QStringLiteral("i.QZ2"), "[Round1]\r\nDescription=\r\n");
-        program_->write(QStringLiteral("j.QZ2"), playable(QByteArray(2500, 'x')));
+        program_->write(QStringLiteral("j.QZ2"), playableSet(QByteArray(2500, 'x')));
         program_->write(QStringLiteral("k.QZ2"), "no sections at all");
-        writeDoc(QStringLiteral("A.qz2"), playable("Documents A"));
-        writeDoc(QStringLiteral("b.QZ2"), playable("Documents b"));
+        writeDoc(QStringLiteral("A.qz2"), playableSet("Documents A"));
+        writeDoc(QStringLiteral("b.QZ2"), playableSet("Documents b"));
 
         openHome();
         const QStringList shown = texts(home_->lstQuestions);
@@ -195,7 +186,7 @@ private slots:
 
     void startWithoutSelectionAsksForOne()
     {
-        program_->write(QStringLiteral("a.QZ2"), playable("A"));
+        program_->write(QStringLiteral("a.QZ2"), playableSet("A"));
         openHome();
         home_->lstQuestions->clearSelection();
         home_->cmdStart->click();
@@ -207,154 +198,10 @@ private slots:
         QVERIFY(home_->isVisible());
     }
 
-    // Listing with a cache of descriptions: what it answers must be what
-    // reading the files would, whatever changed between listings. The
-    // listings are an hour from now, so that every file counts as settled.
-    void cachedDescriptionsAreThoseOfTheFilesNow()
-    {
-        QTemporaryDir cacheDir;
-        const QString cacheFile = cacheDir.filePath(QStringLiteral("cache"));
-        const qint64 later = StampClockNowNs() + 3600LL * 1'000'000'000;
-        int hits = -1;
-        const auto list = [&] {
-            DescriptionCache cache(cacheFile, later);
-            const QList<QuestionSetEntry> entries = ListQuestionSets(program_->path(), docs(), &cache);
-            cache.save();
-            hits = cache.hits();
-            QStringList shown, read;
-            for (const QuestionSetEntry &e : entries)
-                shown << e.text;
-            for (const QuestionSetEntry &e : ListQuestionSets(program_->path(), docs()))
-                read << e.text;
-            return shown == read ? shown : QStringList{QStringLiteral("not as the files say")};
-        };
-        for (int i = 0; i < 300; ++i) // enough to be read on every core
-            program_->write(QStringLiteral("set%1.QZ2").arg(i, 3, 10, QLatin1Char('0')), playable("Set " + QByteArray::number(i)));
-        program_->write(QStringLiteral("none.QZ2"), "no sections");
-        writeDoc(QStringLiteral("mine.QZ2"), playable("Mine"));
-        QVERIFY(::mkfifo(QFile::encodeName(program_->file(QStringLiteral("pipe.QZ2"))).constData(), 0600) == 0);
-
-        QStringList shown = list();
-        QCOMPARE(hits, 0);
-        QCOMPARE(shown.size(), 301); // the pipe is no set, and never waited on
-        QCOMPARE(shown.first(), QStringLiteral("mine.QZ2\tMine"));
-        QCOMPARE(list().size(), 301);
-        QCOMPARE(hits, 302); // every file known, the one that is no set too
-
-        // Same size, the very same time of change, other words: only the
-        // status time, which no program can set back, tells.
-        const QByteArray changed = QFile::encodeName(program_->file(QStringLiteral("set007.QZ2")));
-        struct stat before;
-        QVERIFY(::stat(changed.constData(), &before) == 0);
-        program_->write(QStringLiteral("set007.QZ2"), playable("Set X"));
-        const struct timespec times[2] = {before.st_atim, before.st_mtim};
-        QVERIFY(::utimensat(AT_FDCWD, changed.constData(), times, 0) == 0);
-        QVERIFY(list().contains(QStringLiteral("set007.QZ2\tSet X")));
-        QCOMPARE(hits, 301);
-
-        // A gone file, a renamed one and a new one.
-        QVERIFY(QFile::remove(program_->file(QStringLiteral("set001.QZ2"))));
-        QVERIFY(QFile::rename(program_->file(QStringLiteral("set002.QZ2")), program_->file(QStringLiteral("two.QZ2"))));
-        program_->write(QStringLiteral("new.QZ2"), playable("New"));
-        shown = list();
-        QCOMPARE(hits, 300); // all but the renamed and the new
-        QVERIFY(shown.contains(QStringLiteral("two.QZ2\tSet 2")));
-        QVERIFY(shown.contains(QStringLiteral("new.QZ2\tNew")));
-        QVERIFY(!shown.contains(QStringLiteral("set001.QZ2\tSet 1")));
-
-        // A damaged cache is no cache, and is written afresh.
-        for (const qint64 keep : {qint64(0), qint64(9), QFileInfo(cacheFile).size() / 2, QFileInfo(cacheFile).size() - 1}) {
-            QVERIFY(QFile::resize(cacheFile, keep));
-            QCOMPARE(list().size(), 301);
-            QCOMPARE(hits, 0);
-            list();
-            QCOMPARE(hits, 302);
-        }
-        QFile longer(cacheFile);
-        QVERIFY(longer.open(QIODevice::Append));
-        longer.write("x");
-        longer.close();
-        list();
-        QCOMPARE(hits, 0);
-
-        // Files changed just now are read afresh until they have settled.
-        DescriptionCache now(cacheFile);
-        ListQuestionSets(program_->path(), docs(), &now);
-        now.save();
-        DescriptionCache again(cacheFile, later);
-        ListQuestionSets(program_->path(), docs(), &again);
-        QCOMPARE(again.hits(), 0);
-    }
-
-    // The list's column needs the widest file name; the cache may answer
-    // only while its answer is still the truth.
-    void widestFileNameStaysTrue()
-    {
-        QTemporaryDir cacheDir, otherProgram;
-        const QString cacheFile = cacheDir.filePath(QStringLiteral("cache"));
-        const qint64 later = StampClockNowNs() + 3600LL * 1'000'000'000;
-        const auto widest = [&](const QFont &font, const QString &program) {
-            DescriptionCache cache(cacheFile, later);
-            const QList<QuestionSetEntry> entries = ListQuestionSets(program, docs(), &cache);
-            const int width = WidestFileName(entries, QFontMetrics(font), &cache);
-            cache.save();
-            int truth = 0;
-            for (const QuestionSetEntry &e : entries)
-                truth = qMax(truth, QFontMetrics(font).horizontalAdvance(EntryFileName(e.text)));
-            return width == truth ? width : -1;
-        };
-        const QFont font(QStringLiteral("Arial"), 10), bigger(QStringLiteral("Arial"), 20);
-        const auto width = [&font](const char *name) { return QFontMetrics(font).horizontalAdvance(QLatin1String(name)); };
-        program_->write(QStringLiteral("a.QZ2"), playable("A"));
-        program_->write(QStringLiteral("Much longer name.QZ2"), playable("B"));
-        QCOMPARE(widest(font, program_->path()), width("Much longer name.QZ2"));
-        QCOMPARE(widest(font, program_->path()), width("Much longer name.QZ2"));
-        writeDoc(QStringLiteral("The longest name of them all.QZ2"), playable("C"));
-        QCOMPARE(widest(font, program_->path()), width("The longest name of them all.QZ2"));
-        QVERIFY(QFile::remove(docs() + QStringLiteral("The longest name of them all.QZ2")));
-        QCOMPARE(widest(font, program_->path()), width("Much longer name.QZ2"));
-        QCOMPARE(widest(bigger, program_->path()),
-                 QFontMetrics(bigger).horizontalAdvance(QStringLiteral("Much longer name.QZ2")));
-        // Another program folder in between, whose names were never
-        // measured against these, one of them the same as here.
-        QFile a(otherProgram.filePath(QStringLiteral("a.QZ2")));
-        QVERIFY(a.open(QIODevice::WriteOnly));
-        a.write(playable("A"));
-        a.close();
-        QCOMPARE(widest(font, otherProgram.path() + QLatin1Char('/')), width("a.QZ2"));
-        QCOMPARE(widest(font, program_->path()), width("Much longer name.QZ2"));
-    }
-
-    // The sets listed on another core at start fill the home screen only
-    // when they are of the very folders it shows; a refill reads afresh.
-    void listingMadeAheadServesOnlyItsFolders()
-    {
-        program_->write(QStringLiteral("real.QZ2"), playable("Real"));
-        const auto ahead = [](const QString &program, const QString &documents) {
-            return SetListing{program, documents, {{QStringLiteral("ahead.QZ2\tMade ahead"), 0, false}},
-                              std::make_unique<DescriptionCache>(QString())};
-        };
-        home_ = new frmSelect(state_, libraries_, nullptr, ahead(program_->path(), docs()));
-        QCOMPARE(texts(home_->lstQuestions), QStringList{QStringLiteral("ahead.QZ2\tMade ahead")});
-        home_->PopulateQZ2();
-        QCOMPARE(texts(home_->lstQuestions), QStringList{QStringLiteral("real.QZ2\tReal")});
-        delete home_.data();
-        home_ = new frmSelect(state_, libraries_, nullptr, ahead(QStringLiteral("/elsewhere/"), docs()));
-        QCOMPARE(texts(home_->lstQuestions), QStringList{QStringLiteral("real.QZ2\tReal")});
-
-        StartupPrefetch start;
-        const SetListing listed = start.takeSetListing();
-        QCOMPARE(listed.programFolder, program_->path());
-        QCOMPARE(listed.documentsFolder, docs());
-        QCOMPARE(listed.entries.size(), 1);
-        QCOMPARE(listed.entries.first().text, QStringLiteral("real.QZ2\tReal"));
-        QVERIFY(!start.takeSetListing().cache); // once only
-    }
-
     void vanishedFilesLeaveTheList()
     {
-        program_->write(QStringLiteral("a.QZ2"), playable("A"));
-        program_->write(QStringLiteral("b.QZ2"), playable("B"));
+        program_->write(QStringLiteral("a.QZ2"), playableSet("A"));
+        program_->write(QStringLiteral("b.QZ2"), playableSet("B"));
         libraries_.hPictureLib = PictureLibrary::load(QStringLiteral(QUIZZARR_PROGRAM_DIR "/PLOVQBmp.so"));
         openHome();
         QFile::remove(program_->file(QStringLiteral("a.QZ2")));
@@ -390,7 +237,7 @@ private slots:
     void startsTheGameWithTheChosenTeams()
     {
         QFETCH(int, teams);
-        program_->write(QStringLiteral("a.QZ2"), playable("A"));
+        program_->write(QStringLiteral("a.QZ2"), playableSet("A"));
         openHome();
         state_.Scores.fill(77);
         state_.Round = 4;
@@ -416,7 +263,7 @@ private slots:
 
     void warnsAboutSoundsAndPlaysTheFanfare()
     {
-        program_->write(QStringLiteral("a.QZ2"), playable("A"));
+        program_->write(QStringLiteral("a.QZ2"), playableSet("A"));
         FakeSoundControl sound(libraries_);
         clock_->onAdvance = [&](int ms) { sound.advance(ms); };
         ModuleFileName::overridePath(ModuleFileName::programFolder() + ModuleFileName::gameExecutableName());
@@ -439,7 +286,7 @@ private slots:
 
     void oneScreenOpensTheConsoleOnlyByHand()
     {
-        program_->write(QStringLiteral("a.QZ2"), playable("A"));
+        program_->write(QStringLiteral("a.QZ2"), playableSet("A"));
         openHome();
         home_->cmdStart->click();
         QVERIFY(board());
@@ -455,7 +302,7 @@ private slots:
 
     void secondGameAfterTenTeamsKeepsOnlyItsLabels()
     {
-        program_->write(QStringLiteral("a.QZ2"), playable("A"));
+        program_->write(QStringLiteral("a.QZ2"), playableSet("A"));
         openHome();
         home_->cmbScore->setCurrentIndex(10);
         home_->cmdStart->click();
@@ -470,8 +317,8 @@ private slots:
 
     void selectionAndTeamCountSurviveAGameAndTheHelp()
     {
-        program_->write(QStringLiteral("a.QZ2"), playable("A"));
-        program_->write(QStringLiteral("b.QZ2"), playable("B"));
+        program_->write(QStringLiteral("a.QZ2"), playableSet("A"));
+        program_->write(QStringLiteral("b.QZ2"), playableSet("B"));
         openHome();
         home_->lstQuestions->setCurrentRow(1);
         home_->cmbScore->setCurrentIndex(5);
@@ -494,8 +341,8 @@ private slots:
 
     void enterAndDoubleClickStart()
     {
-        program_->write(QStringLiteral("a.QZ2"), playable("A"));
-        program_->write(QStringLiteral("b.QZ2"), playable("B"));
+        program_->write(QStringLiteral("a.QZ2"), playableSet("A"));
+        program_->write(QStringLiteral("b.QZ2"), playableSet("B"));
         openHome();
         home_->lstQuestions->setFocus();
         QTest::keyClick(home_->lstQuestions, Qt::Key_Return);
@@ -512,7 +359,7 @@ private slots:
 
     void editorButtonAsksWhatToEdit()
     {
-        program_->write(QStringLiteral("a.QZ2"), playable("A"));
+        program_->write(QStringLiteral("a.QZ2"), playableSet("A"));
         openHome();
         boxes_->answers = {MsgBoxResult::Yes};
         home_->cmdEditor->click();
@@ -578,7 +425,7 @@ private slots:
 
     void exportCopiesTheSelectedSetWhole()
     {
-        const QByteArray bytes = playable("Exported \xe9");
+        const QByteArray bytes = playableSet("Exported \xe9");
         program_->write(QStringLiteral("a.QZ2"), bytes);
         openHome();
         SpecialFolders::overridePath(SpecialFolders::kDesktop, docs());
@@ -601,7 +448,7 @@ private slots:
 
     void failedExportTellsAndDamagesNothing()
     {
-        program_->write(QStringLiteral("a.QZ2"), playable("A"));
+        program_->write(QStringLiteral("a.QZ2"), playableSet("A"));
         openHome();
         const QString own = program_->file(QStringLiteral("a.QZ2"));
         dialogs_->choose(own);
@@ -611,7 +458,7 @@ private slots:
         QCOMPARE(boxes_->shown[0].style, 0);
         QFile f(own);
         QVERIFY(f.open(QIODevice::ReadOnly));
-        QCOMPARE(f.readAll(), playable("A"));
+        QCOMPARE(f.readAll(), playableSet("A"));
         dialogs_->choose(docs() + QStringLiteral("missing/folder/a.QZ2"));
         home_->mnuExportAnother->trigger();
         QCOMPARE(boxes_->shown.last().text, QStringLiteral("Export File Failure\r\nNo such file or directory"));
@@ -624,13 +471,13 @@ private slots:
 
     void importCopiesIntoDocumentsAndListsAfresh()
     {
-        program_->write(QStringLiteral("a.QZ2"), playable("A"));
-        writeDoc(QStringLiteral("b.QZ2"), playable("Old b"));
+        program_->write(QStringLiteral("a.QZ2"), playableSet("A"));
+        writeDoc(QStringLiteral("b.QZ2"), playableSet("Old b"));
         QTemporaryDir media;
         SpecialFolders::overrideRemovableMedia(media.path());
         QFile source(media.filePath(QStringLiteral("b.QZ2")));
         QVERIFY(source.open(QIODevice::WriteOnly));
-        source.write(playable("New b"));
+        source.write(playableSet("New b"));
         source.close();
         openHome();
         dialogs_->choose(source.fileName());
@@ -659,7 +506,7 @@ private slots:
 
     void importAndExportStartInFoldersMadeWhenMissing()
     {
-        program_->write(QStringLiteral("a.QZ2"), playable("A"));
+        program_->write(QStringLiteral("a.QZ2"), playableSet("A"));
         const QString desktop = docs() + QStringLiteral("Fresh/Desktop");
         const QString documents = docs() + QStringLiteral("Fresh/Documents");
         SpecialFolders::overridePath(SpecialFolders::kDesktop, desktop);

@@ -77,3 +77,9 @@ bool sameTexts(const QuestionSet &a, const QuestionSet &b, QString *where)
     }
     return a.Description == b.Description;
 }
+
+QByteArray playableSet(const QByteArray &description)
+{
+    return "[Round1]\r\nDescription=" + description + "\r\nCategory0=Rivers\r\n\r\n[Round1Category0]\r\n"
+           "Answer0=a\r\nQuestion0=q\r\n";
+}

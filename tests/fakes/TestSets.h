@@ -13,6 +13,10 @@
 // a null final leaves [Final] out.
 QByteArray setText(const QList<const char *> &round1, const QList<const char *> &round2, const char *final);
 
+// The smallest set the home list shows: one round of one clue, with this
+// description.
+QByteArray playableSet(const QByteArray &description);
+
 // Writes bytes to path (replacing it); the path back.
 QString writeFile(const QString &path, const QByteArray &bytes);
 

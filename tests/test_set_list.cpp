@@ -1,0 +1,213 @@
+// The home list's sets and what speeds their listing: the cache of
+// descriptions, the widest name it remembers, and the listing made on
+// another core at start.
+
+#include "TestFolder.h"
+#include "TestSets.h"
+
+#include "game/GameState.h"
+#include "platform/SpecialFolders.h"
+#include "select/QuestionSetList.h"
+#include "shell/Libraries.h"
+#include "shell/StartupPrefetch.h"
+#include "ui/select/frmSelect.h"
+
+#include <QListWidget>
+#include <QPointer>
+#include <QtTest>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include <memory>
+
+namespace {
+
+QStringList texts(const QListWidget *list)
+{
+    QStringList t;
+    for (int i = 0; i < list->count(); ++i)
+        t << list->item(i)->text();
+    return t;
+}
+
+} // namespace
+
+class TestSetList : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<TestFolder> program_;
+    std::unique_ptr<QTemporaryDir> documents_;
+    QPointer<frmSelect> home_;
+    GameState state_;
+    Libraries libraries_;
+
+    QString docs() const { return documents_->path() + QLatin1Char('/'); }
+    void writeDoc(const QString &name, const QByteArray &bytes) { writeFile(docs() + name, bytes); }
+
+private slots:
+    void initTestCase() { QFont::insertSubstitution(QStringLiteral("Arial"), QStringLiteral("Liberation Sans")); }
+
+    void init()
+    {
+        program_ = std::make_unique<TestFolder>();
+        documents_ = std::make_unique<QTemporaryDir>();
+        SpecialFolders::overridePath(SpecialFolders::kDocuments, documents_->path());
+    }
+
+    void cleanup()
+    {
+        delete home_.data();
+        SpecialFolders::overridePath(SpecialFolders::kDocuments, QString());
+        documents_.reset();
+        program_.reset();
+    }
+
+    // Listing with a cache of descriptions: what it answers must be what
+    // reading the files would, whatever changed between listings. The
+    // listings are an hour from now, so that every file counts as settled.
+    void cachedDescriptionsAreThoseOfTheFilesNow()
+    {
+        QTemporaryDir cacheDir;
+        const QString cacheFile = cacheDir.filePath(QStringLiteral("cache"));
+        const qint64 later = StampClockNowNs() + 3600LL * 1'000'000'000;
+        int hits = -1;
+        const auto list = [&] {
+            DescriptionCache cache(cacheFile, later);
+            const QList<QuestionSetEntry> entries = ListQuestionSets(program_->path(), docs(), &cache);
+            cache.save();
+            hits = cache.hits();
+            QStringList shown, read;
+            for (const QuestionSetEntry &e : entries)
+                shown << e.text;
+            for (const QuestionSetEntry &e : ListQuestionSets(program_->path(), docs()))
+                read << e.text;
+            return shown == read ? shown : QStringList{QStringLiteral("not as the files say")};
+        };
+        for (int i = 0; i < 300; ++i) // enough to be read on every core
+            program_->write(QStringLiteral("set%1.QZ2").arg(i, 3, 10, QLatin1Char('0')), playableSet("Set " + QByteArray::number(i)));
+        program_->write(QStringLiteral("none.QZ2"), "no sections");
+        writeDoc(QStringLiteral("mine.QZ2"), playableSet("Mine"));
+        QVERIFY(::mkfifo(QFile::encodeName(program_->file(QStringLiteral("pipe.QZ2"))).constData(), 0600) == 0);
+
+        QStringList shown = list();
+        QCOMPARE(hits, 0);
+        QCOMPARE(shown.size(), 301); // the pipe is no set, and never waited on
+        QCOMPARE(shown.first(), QStringLiteral("mine.QZ2\tMine"));
+        QCOMPARE(list().size(), 301);
+        QCOMPARE(hits, 302); // every file known, the one that is no set too
+
+        // Same size, the very same time of change, other words: only the
+        // status time, which no program can set back, tells.
+        const QByteArray changed = QFile::encodeName(program_->file(QStringLiteral("set007.QZ2")));
+        struct stat before;
+        QVERIFY(::stat(changed.constData(), &before) == 0);
+        program_->write(QStringLiteral("set007.QZ2"), playableSet("Set X"));
+        const struct timespec times[2] = {before.st_atim, before.st_mtim};
+        QVERIFY(::utimensat(AT_FDCWD, changed.constData(), times, 0) == 0);
+        QVERIFY(list().contains(QStringLiteral("set007.QZ2\tSet X")));
+        QCOMPARE(hits, 301);
+
+        // A gone file, a renamed one and a new one.
+        QVERIFY(QFile::remove(program_->file(QStringLiteral("set001.QZ2"))));
+        QVERIFY(QFile::rename(program_->file(QStringLiteral("set002.QZ2")), program_->file(QStringLiteral("two.QZ2"))));
+        program_->write(QStringLiteral("new.QZ2"), playableSet("New"));
+        shown = list();
+        QCOMPARE(hits, 300); // all but the renamed and the new
+        QVERIFY(shown.contains(QStringLiteral("two.QZ2\tSet 2")));
+        QVERIFY(shown.contains(QStringLiteral("new.QZ2\tNew")));
+        QVERIFY(!shown.contains(QStringLiteral("set001.QZ2\tSet 1")));
+
+        // A damaged cache is no cache, and is written afresh.
+        for (const qint64 keep : {qint64(0), qint64(9), QFileInfo(cacheFile).size() / 2, QFileInfo(cacheFile).size() - 1}) {
+            QVERIFY(QFile::resize(cacheFile, keep));
+            QCOMPARE(list().size(), 301);
+            QCOMPARE(hits, 0);
+            list();
+            QCOMPARE(hits, 302);
+        }
+        QFile longer(cacheFile);
+        QVERIFY(longer.open(QIODevice::Append));
+        longer.write("x");
+        longer.close();
+        list();
+        QCOMPARE(hits, 0);
+
+        // Files changed just now are read afresh until they have settled.
+        DescriptionCache now(cacheFile);
+        ListQuestionSets(program_->path(), docs(), &now);
+        now.save();
+        DescriptionCache again(cacheFile, later);
+        ListQuestionSets(program_->path(), docs(), &again);
+        QCOMPARE(again.hits(), 0);
+    }
+
+    // The list's column needs the widest file name; the cache may answer
+    // only while its answer is still the truth.
+    void widestFileNameStaysTrue()
+    {
+        QTemporaryDir cacheDir, otherProgram;
+        const QString cacheFile = cacheDir.filePath(QStringLiteral("cache"));
+        const qint64 later = StampClockNowNs() + 3600LL * 1'000'000'000;
+        const auto widest = [&](const QFont &font, const QString &program) {
+            DescriptionCache cache(cacheFile, later);
+            const QList<QuestionSetEntry> entries = ListQuestionSets(program, docs(), &cache);
+            const int width = WidestFileName(entries, QFontMetrics(font), &cache);
+            cache.save();
+            int truth = 0;
+            for (const QuestionSetEntry &e : entries)
+                truth = qMax(truth, QFontMetrics(font).horizontalAdvance(EntryFileName(e.text)));
+            return width == truth ? width : -1;
+        };
+        const QFont font(QStringLiteral("Arial"), 10), bigger(QStringLiteral("Arial"), 20);
+        const auto width = [&font](const char *name) { return QFontMetrics(font).horizontalAdvance(QLatin1String(name)); };
+        program_->write(QStringLiteral("a.QZ2"), playableSet("A"));
+        program_->write(QStringLiteral("Much longer name.QZ2"), playableSet("B"));
+        QCOMPARE(widest(font, program_->path()), width("Much longer name.QZ2"));
+        QCOMPARE(widest(font, program_->path()), width("Much longer name.QZ2"));
+        writeDoc(QStringLiteral("The longest name of them all.QZ2"), playableSet("C"));
+        QCOMPARE(widest(font, program_->path()), width("The longest name of them all.QZ2"));
+        QVERIFY(QFile::remove(docs() + QStringLiteral("The longest name of them all.QZ2")));
+        QCOMPARE(widest(font, program_->path()), width("Much longer name.QZ2"));
+        QCOMPARE(widest(bigger, program_->path()),
+                 QFontMetrics(bigger).horizontalAdvance(QStringLiteral("Much longer name.QZ2")));
+        // Another program folder in between, whose names were never
+        // measured against these, one of them the same as here.
+        QFile a(otherProgram.filePath(QStringLiteral("a.QZ2")));
+        QVERIFY(a.open(QIODevice::WriteOnly));
+        a.write(playableSet("A"));
+        a.close();
+        QCOMPARE(widest(font, otherProgram.path() + QLatin1Char('/')), width("a.QZ2"));
+        QCOMPARE(widest(font, program_->path()), width("Much longer name.QZ2"));
+    }
+
+    // The sets listed on another core at start fill the home screen only
+    // when they are of the very folders it shows; a refill reads afresh.
+    void listingMadeAheadServesOnlyItsFolders()
+    {
+        program_->write(QStringLiteral("real.QZ2"), playableSet("Real"));
+        const auto ahead = [](const QString &program, const QString &documents) {
+            return SetListing{program, documents, {{QStringLiteral("ahead.QZ2\tMade ahead"), 0, false}},
+                              std::make_unique<DescriptionCache>(QString())};
+        };
+        home_ = new frmSelect(state_, libraries_, nullptr, ahead(program_->path(), docs()));
+        QCOMPARE(texts(home_->lstQuestions), QStringList{QStringLiteral("ahead.QZ2\tMade ahead")});
+        home_->PopulateQZ2();
+        QCOMPARE(texts(home_->lstQuestions), QStringList{QStringLiteral("real.QZ2\tReal")});
+        delete home_.data();
+        home_ = new frmSelect(state_, libraries_, nullptr, ahead(QStringLiteral("/elsewhere/"), docs()));
+        QCOMPARE(texts(home_->lstQuestions), QStringList{QStringLiteral("real.QZ2\tReal")});
+
+        StartupPrefetch start;
+        const SetListing listed = start.takeSetListing();
+        QCOMPARE(listed.programFolder, program_->path());
+        QCOMPARE(listed.documentsFolder, docs());
+        QCOMPARE(listed.entries.size(), 1);
+        QCOMPARE(listed.entries.first().text, QStringLiteral("real.QZ2\tReal"));
+        QVERIFY(!start.takeSetListing().cache); // once only
+    }
+
+};
+
+QTEST_MAIN(TestSetList)
+#include "test_set_list.moc"
