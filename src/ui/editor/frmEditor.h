@@ -122,6 +122,8 @@ private:
     void createPictureButtons();
     // Shows the category's pictures on their buttons.
     void showPictures();
+    // A picture button's picture as large as the button leaves room for.
+    void fitPictureIcon(QToolButton *button);
     void setFieldShown(QLineEdit *field, bool shown);
     // Where the dialogs look for sets and put new files: the documents
     // folder, else the program folder if it takes files (as when built),

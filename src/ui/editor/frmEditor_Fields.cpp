@@ -278,7 +278,7 @@ bool frmEditor::eventFilter(QObject *watched, QEvent *event)
     if (event->type() == QEvent::Resize) {
         for (QToolButton *button : cmdPicture) {
             if (watched == button)
-                button->setIconSize(button->size() - QSize(12, 6));
+                fitPictureIcon(button);
         }
     }
     // A key press or a turn of the wheel on a list acts once, whether or not

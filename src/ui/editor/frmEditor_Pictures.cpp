@@ -74,6 +74,11 @@ void frmEditor::createPictureButtons()
     }
 }
 
+void frmEditor::fitPictureIcon(QToolButton *button)
+{
+    button->setIconSize(button->size() - QSize(12, 6)); // the button's frame and the menu's arrow
+}
+
 void frmEditor::showPictures()
 {
     // A name in the set is found beside the set's file, as the game finds it.
@@ -83,10 +88,9 @@ void frmEditor::showPictures()
         const QString name = shownCategory().Picture[size_t(j)];
         const QString path = setFile.isEmpty() && QFileInfo(name).isRelative() ? QString() : GameReads::PicturePath(setFile, name);
         const QIcon icon = name.isEmpty() ? QIcon() : thumbnail(path, button->size() * 2);
-        const QSize room = button->size() - QSize(12, 6);
         static const QIcon none = noPicture();
         button->setIcon(name.isEmpty() ? none : icon);
-        button->setIconSize(room);
+        fitPictureIcon(button);
         button->setText(name.isEmpty() ? QStringLiteral("Picture...") : icon.isNull() ? QStringLiteral("?") : QString());
         button->setToolButtonStyle(!name.isEmpty() && icon.isNull() ? Qt::ToolButtonTextOnly : Qt::ToolButtonIconOnly);
         button->setToolTip(name.isEmpty() ? QStringLiteral("Choose a picture to show with this clue")
