@@ -178,7 +178,6 @@ void DescriptionCache::remember(const QString &folder, const QString &name, cons
         return;
     }
     lastListed_->append({name, {stamp, description}});
-    ++kept_;
 }
 
 bool DescriptionCache::changed() const
@@ -186,10 +185,12 @@ bool DescriptionCache::changed() const
     if (changed_ || widestNow_ != widest_)
         return true;
     // Every file of the listed folders found as it was, and none gone.
-    int known = 0;
-    for (auto folder = listed_.constBegin(); folder != listed_.constEnd(); ++folder)
+    qsizetype known = 0, kept = 0;
+    for (auto folder = listed_.constBegin(); folder != listed_.constEnd(); ++folder) {
         known += loaded_.value(folder.key()).size();
-    return hits_ != kept_ || kept_ != known || loadedOrder_.mid(0, listed_.size()) != listedOrder_;
+        kept += folder->size();
+    }
+    return hits_ != kept || kept != known || loadedOrder_.mid(0, listed_.size()) != listedOrder_;
 }
 
 void DescriptionCache::save() const

@@ -70,7 +70,6 @@ private:
     QStringList listedOrder_;
     WidestName widest_;
     WidestName widestNow_;
-    int kept_ = 0;
     bool changed_ = false;
     mutable int hits_ = 0;
     mutable const QHash<QString, Known> *lastFound_ = nullptr;
