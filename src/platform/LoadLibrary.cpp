@@ -5,6 +5,18 @@
 
 #include <dlfcn.h>
 
+namespace {
+
+// The exact file, or nothing: QLibrary would try other prefixes and
+// suffixes beside a missing file.
+QString exactLibraryFile(const QString &absolutePath)
+{
+    const QFileInfo file(absolutePath);
+    return file.isAbsolute() && file.isFile() ? file.absoluteFilePath() : QString();
+}
+
+} // namespace
+
 void LibraryUnloader::operator()(QLibrary *library) const
 {
     if (library) {
@@ -15,12 +27,10 @@ void LibraryUnloader::operator()(QLibrary *library) const
 
 LoadedLibrary LoadLibraryFrom(const QString &absolutePath)
 {
-    const QFileInfo file(absolutePath);
-    // QLibrary would try other prefixes and suffixes beside a missing file;
-    // only the exact file counts.
-    if (!file.isAbsolute() || !file.isFile())
+    const QString file = exactLibraryFile(absolutePath);
+    if (file.isEmpty())
         return nullptr;
-    LoadedLibrary library(new QLibrary(file.absoluteFilePath()));
+    LoadedLibrary library(new QLibrary(file));
     if (!library->load())
         return nullptr;
     return library;
@@ -33,9 +43,9 @@ QString librarySuffix()
 
 PreloadedLibrary::PreloadedLibrary(const QString &absolutePath)
 {
-    const QFileInfo file(absolutePath);
-    if (file.isAbsolute() && file.isFile()) // the same rule as LoadLibraryFrom
-        handle_ = ::dlopen(QFile::encodeName(file.absoluteFilePath()).constData(), RTLD_LAZY | RTLD_LOCAL);
+    const QString file = exactLibraryFile(absolutePath);
+    if (!file.isEmpty())
+        handle_ = ::dlopen(QFile::encodeName(file).constData(), RTLD_LAZY | RTLD_LOCAL);
 }
 
 PreloadedLibrary::~PreloadedLibrary()
