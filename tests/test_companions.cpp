@@ -10,6 +10,7 @@
 #include <QtTest>
 
 #include <csignal>
+#include <dlfcn.h>
 
 namespace {
 
@@ -41,13 +42,18 @@ private slots:
         QVERIFY(libraries_.hPictureLib);
     }
 
-    void soundLeavesTheProgramsSignalsAlone()
+    void soundSystemComesOnlyWithSoundAndLeavesTheSignalsAlone()
     {
+        // Binding the library at the game's start must not load SDL2's sound
+        // system; the first initialisation does.
+        const auto sdlLoaded = [] { return ::dlopen("libSDL2-2.0.so.0", RTLD_NOW | RTLD_NOLOAD) != nullptr; };
+        QVERIFY(!sdlLoaded());
         // SDL takes signals that still have their default action; the game's
         // own SIGTERM and SIGINT must stay the game's.
         for (int sig : {SIGTERM, SIGINT})
             std::signal(sig, SIG_DFL);
         QCOMPARE(api<int32_t (*)(uintptr_t)>("PLOV_InitSound")(0), 0);
+        QVERIFY(sdlLoaded());
         for (int sig : {SIGTERM, SIGINT}) {
             struct sigaction now {};
             sigaction(sig, nullptr, &now);

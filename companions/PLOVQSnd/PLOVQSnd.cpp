@@ -1,12 +1,17 @@
 // The sound library: eight clips built in at compile time, played through
 // SDL2's audio output. Every entry point is safe to call in any state; a
 // call that cannot be honoured fails quietly with the documented result.
+//
+// SDL2 is bound when sound is first initialised, not with this library: it
+// brings a whole sound system of some fifty libraries, and the game binds
+// this library at its start, long before its first clip.
 
 #include "PLOVQSnd.h"
 #include "Mixer.h"
 
 #include <SDL.h>
 
+#include <dlfcn.h>
 #include <mutex>
 
 #define PLOV_CLIP(id)                                      \
@@ -19,6 +24,45 @@ PLOV_CLIP(105) PLOV_CLIP(106) PLOV_CLIP(107) PLOV_CLIP(108)
 namespace {
 
 using plovqsnd::Mixer;
+
+// The few SDL2 functions the library calls, bound once and kept for the
+// life of the process: SDL's own threads and exit handlers may outlive any
+// unloading.
+struct Sdl {
+    decltype(&SDL_SetHint) SetHint = nullptr;
+    decltype(&SDL_InitSubSystem) InitSubSystem = nullptr;
+    decltype(&SDL_QuitSubSystem) QuitSubSystem = nullptr;
+    decltype(&SDL_OpenAudioDevice) OpenAudioDevice = nullptr;
+    decltype(&SDL_PauseAudioDevice) PauseAudioDevice = nullptr;
+    decltype(&SDL_CloseAudioDevice) CloseAudioDevice = nullptr;
+
+    bool bind()
+    {
+        void *library = ::dlopen(PLOVQSND_SDL_LIBRARY, RTLD_NOW | RTLD_LOCAL);
+        return library && find(library, "SDL_SetHint", SetHint) && find(library, "SDL_InitSubSystem", InitSubSystem) &&
+               find(library, "SDL_QuitSubSystem", QuitSubSystem) &&
+               find(library, "SDL_OpenAudioDevice", OpenAudioDevice) &&
+               find(library, "SDL_PauseAudioDevice", PauseAudioDevice) &&
+               find(library, "SDL_CloseAudioDevice", CloseAudioDevice);
+    }
+
+private:
+    template <typename F> static bool find(void *library, const char *name, F &function)
+    {
+        function = reinterpret_cast<F>(::dlsym(library, name));
+        return function != nullptr;
+    }
+};
+
+// SDL2's functions, or null when SDL2 cannot be had.
+const Sdl *sdl()
+{
+    static const Sdl bound = [] {
+        Sdl s;
+        return s.bind() ? s : Sdl{};
+    }();
+    return bound.SetHint ? &bound : nullptr;
+}
 
 struct Clip {
     int32_t id;
@@ -49,10 +93,10 @@ struct Device {
 
     void close()
     {
-        if (id != 0) {
-            SDL_CloseAudioDevice(id); // waits for the audio thread to finish
+        if (id != 0) { // only ever opened through SDL's functions
+            sdl()->CloseAudioDevice(id); // waits for the audio thread to finish
             id = 0;
-            SDL_QuitSubSystem(SDL_INIT_AUDIO);
+            sdl()->QuitSubSystem(SDL_INIT_AUDIO);
         }
         std::lock_guard lock(mutex);
         mixer.clear();
@@ -96,10 +140,13 @@ int32_t PLOV_InitSound(uintptr_t)
         d.ready = true;
         return 0;
     }
+    const Sdl *sdlBound = sdl();
+    if (!sdlBound)
+        return -1;
     // A library has no business with the program's signals: left to SDL,
     // SIGTERM and SIGINT would no longer end the game.
-    SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
-    if (SDL_InitSubSystem(SDL_INIT_AUDIO) != 0)
+    sdlBound->SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
+    if (sdlBound->InitSubSystem(SDL_INIT_AUDIO) != 0)
         return -1;
     SDL_AudioSpec want{};
     want.freq = plovqsnd::kSampleRate;
@@ -107,12 +154,12 @@ int32_t PLOV_InitSound(uintptr_t)
     want.channels = 1;
     want.samples = 1024;
     want.callback = audioCallback;
-    d.id = SDL_OpenAudioDevice(nullptr, 0, &want, nullptr, 0);
+    d.id = sdlBound->OpenAudioDevice(nullptr, 0, &want, nullptr, 0);
     if (d.id == 0) {
-        SDL_QuitSubSystem(SDL_INIT_AUDIO);
+        sdlBound->QuitSubSystem(SDL_INIT_AUDIO);
         return -2;
     }
-    SDL_PauseAudioDevice(d.id, 0);
+    sdlBound->PauseAudioDevice(d.id, 0);
     d.ready = true;
     return 0;
 }

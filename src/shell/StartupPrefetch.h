@@ -1,7 +1,6 @@
 // What the start needs from the disk, begun on another core the moment the
 // program starts, while Qt connects to the screen: binding the two
-// companion libraries (the sound library brings a whole sound system with
-// it) and listing the sets. The start then finds the libraries bound and
+// companion libraries and listing the sets. The start then finds the libraries bound and
 // takes the listing; nothing it does or shows changes.
 #pragma once
 
