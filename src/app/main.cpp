@@ -6,11 +6,10 @@
 #include "shell/StartupPrefetch.h"
 #include "ui/controls/QtFileDialog.h"
 #include "ui/controls/QtMsgBox.h"
+#include "ui/shell/WindowIcon.h"
 #include "ui/shell/basPLOVQuzr.h"
 
 #include <QApplication>
-#include <QIcon>
-#include <QTimer>
 
 #include <memory>
 
@@ -26,9 +25,7 @@ int main(int argc, char **argv)
     // theme holds its icon; from a build folder neither is there, and the
     // window simply goes without.
     QApplication::setDesktopFileName(QStringLiteral(QUIZZARR_APP_ID));
-    // Looking the icon up in the theme takes a few milliseconds: it comes
-    // once the home screen is up.
-    QTimer::singleShot(0, [] { QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("quizzarr"))); });
+    SetWindowIconAfterFirstPaint(QStringLiteral("quizzarr"));
     // The home screen hides while a game, the editor or the help is open,
     // and message boxes come and go in between: the program ends when the
     // home screen closes, not when no window happens to be open.
