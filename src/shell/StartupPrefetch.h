@@ -1,7 +1,8 @@
 // What the start needs from the disk, begun on another core the moment the
 // program starts, while Qt connects to the screen: binding the two
-// companion libraries and listing the sets. The start then finds the libraries bound and
-// takes the listing; nothing it does or shows changes.
+// companion libraries, reading the font configuration, and listing the
+// sets. The start then finds the libraries bound and takes the listing;
+// nothing it does or shows changes.
 #pragma once
 
 #include "select/QuestionSetList.h"
@@ -28,4 +29,5 @@ private:
     // Destroyed last: waits for the binding, then lets it go.
     std::future<std::unique_ptr<Bound>> libraries_;
     std::future<SetListing> listing_;
+    std::future<void> fontConfiguration_;
 };
