@@ -190,12 +190,12 @@ private slots:
             return SetListing{program, documents, {{QStringLiteral("ahead.QZ2\tMade ahead"), 0, false}},
                               std::make_unique<DescriptionCache>(QString())};
         };
-        home_ = new frmSelect(state_, libraries_, nullptr, ahead(program_->path(), docs()));
+        home_ = new frmSelect(state_, libraries_, nullptr, [&] { return ahead(program_->path(), docs()); });
         QCOMPARE(texts(home_->lstQuestions), QStringList{QStringLiteral("ahead.QZ2\tMade ahead")});
         home_->PopulateQZ2();
         QCOMPARE(texts(home_->lstQuestions), QStringList{QStringLiteral("real.QZ2\tReal")});
         delete home_.data();
-        home_ = new frmSelect(state_, libraries_, nullptr, ahead(QStringLiteral("/elsewhere/"), docs()));
+        home_ = new frmSelect(state_, libraries_, nullptr, [&] { return ahead(QStringLiteral("/elsewhere/"), docs()); });
         QCOMPARE(texts(home_->lstQuestions), QStringList{QStringLiteral("real.QZ2\tReal")});
 
         StartupPrefetch start;

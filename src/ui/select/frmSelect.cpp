@@ -41,10 +41,12 @@ const QStringList kTeamCounts{
 
 } // namespace
 
-frmSelect::frmSelect(GameState &state, Libraries &libraries, QWidget *parent, SetListing ahead)
+frmSelect::frmSelect(GameState &state, Libraries &libraries, QWidget *parent, std::function<SetListing()> ahead)
     : QWidget(parent), state_(state), libraries_(libraries), ahead_(std::move(ahead))
 {
     setAttribute(Qt::WA_DeleteOnClose);
+    // The backdrop covers every pixel: Qt need not fill the window first.
+    setAttribute(Qt::WA_OpaquePaintEvent);
     setWindowTitle(QStringLiteral("Select the question set to use"));
     createControls();
     resize(640, 480);
@@ -130,10 +132,9 @@ void frmSelect::PopulateQZ2()
     lstQuestions->setUpdatesEnabled(false);
     const QString documents = documentsFolder();
     // A listing made ahead serves the first filling, if it is of these folders.
-    SetListing listing = ahead_.cache && ahead_.programFolder == program && ahead_.documentsFolder == documents
-        ? std::move(ahead_)
-        : ListSets(program, documents);
-    ahead_ = {};
+    SetListing listing = ahead_ ? std::exchange(ahead_, nullptr)() : SetListing{};
+    if (!listing.cache || listing.programFolder != program || listing.documentsFolder != documents)
+        listing = ListSets(program, documents);
     const QList<QuestionSetEntry> &entries = listing.entries;
     QStringList texts;
     texts.reserve(entries.size());

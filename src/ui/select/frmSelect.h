@@ -30,8 +30,10 @@ class frmSelect : public QWidget {
 public:
     // Form_Load: sized 640 x 480 and centred, the list filled, "Three teams"
     // chosen and the first entry selected. A listing made ahead fills the
-    // list if it is of the folders the list shows.
-    frmSelect(GameState &state, Libraries &libraries, QWidget *parent = nullptr, SetListing ahead = {});
+    // list if it is of the folders the list shows; it is asked for once the
+    // controls are built, so that they are built while it is made.
+    frmSelect(GameState &state, Libraries &libraries, QWidget *parent = nullptr,
+              std::function<SetListing()> ahead = {});
     ~frmSelect() override;
 
     // The library picture across the top of the screen.
@@ -117,5 +119,5 @@ private:
     QPointer<frmConsole> console_;
     bool consoleByHand_ = false;
     GameJournal journal_;
-    SetListing ahead_;
+    std::function<SetListing()> ahead_;
 };

@@ -53,8 +53,11 @@ void Main(GameState &state, Libraries &libraries, StartupPrefetch *ahead)
         reportMissing(sounds, "sounds");
 
     state.Round = 1;
+    std::function<SetListing()> listing;
+    if (ahead)
+        listing = [ahead] { return ahead->takeSetListing(); };
+    auto *home = new frmSelect(state, libraries, nullptr, std::move(listing));
     // A game left behind by a crash comes back first, if the host wants it.
-    auto *home = new frmSelect(state, libraries, nullptr, ahead ? ahead->takeSetListing() : SetListing{});
     if (!home->offerResume())
         home->show();
 }
