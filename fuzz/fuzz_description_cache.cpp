@@ -1,7 +1,8 @@
 // The home list's cache of descriptions on any bytes: it lies in the
 // user's cache folder, where anything may become of it. Reading it must
-// never crash, leak or hang, a file it never saw must find nothing, and
-// whatever it held, what a listing adds must read back from what it wrote.
+// never crash, leak or hang, a file it never saw must find nothing, a
+// folder of unknown stamp is never taken on trust, and whatever it held,
+// what a listing adds must read back from what it wrote.
 
 #include "FuzzFiles.h"
 
@@ -15,10 +16,16 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const qint64 later = 2'000'000'000'000'000'000;
     const QString folder = QStringLiteral("/fuzz/listed/");
     const FileStamp stamp{83, 1'000, 2'000, 7};
+    const FileStamp folderStamp{4096, 3'000, 4'000, 9};
     DescriptionCache cache(file, later);
+    const QList<DescriptionCache::KnownFile> *anyFolder = cache.relistUnchanged(QStringLiteral("/"), FileStamp{});
+    if (anyFolder)
+        Fuzz::diverged(QStringLiteral("a folder of unknown stamp"), QStringLiteral("never trusted"),
+                       QStringLiteral("relisted"));
     if (cache.find(folder, QStringLiteral("new.QZ2"), stamp))
         Fuzz::diverged(QStringLiteral("a file the cache never saw"), QStringLiteral("nothing"),
                        QStringLiteral("an answer"));
+    cache.listFolder(folder, folderStamp);
     cache.remember(folder, QStringLiteral("new.QZ2"), stamp, QStringLiteral("Added \u00e9"));
     cache.save();
     DescriptionCache again(file, later);
@@ -26,5 +33,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     if (!found || *found != QStringLiteral("Added \u00e9"))
         Fuzz::diverged(QStringLiteral("what a listing added, read back"), QStringLiteral("Added \u00e9"),
                        found ? *found : QStringLiteral("nothing"));
+    const QList<DescriptionCache::KnownFile> *relisted = again.relistUnchanged(folder, folderStamp);
+    if (!relisted || relisted->size() != 1 || relisted->first().name != QStringLiteral("new.QZ2"))
+        Fuzz::diverged(QStringLiteral("the unchanged folder, relisted"), QStringLiteral("new.QZ2"),
+                       relisted ? QString::number(relisted->size()) + QStringLiteral(" files")
+                                : QStringLiteral("nothing"));
     return 0;
 }

@@ -23,6 +23,14 @@
 
 namespace {
 
+QStringList lines(std::initializer_list<const char *> texts)
+{
+    QStringList l;
+    for (const char *t : texts)
+        l << QString::fromUtf8(t);
+    return l;
+}
+
 QStringList texts(const QListWidget *list)
 {
     QStringList t;
@@ -142,6 +150,130 @@ private slots:
         QCOMPARE(again.hits(), 0);
     }
 
+    // A folder whose own stamp is unchanged has the same files: they come
+    // from the cache, sorted as before, without a look at each. A file
+    // written in place is not seen then, but by the check that follows.
+    void unchangedFoldersAreTakenOnTrustThenChecked()
+    {
+        QTemporaryDir cacheDir;
+        const QString cacheFile = cacheDir.filePath(QStringLiteral("cache"));
+        const qint64 later = StampClockNowNs() + 3600LL * 1'000'000'000;
+        for (const char *name : {"b.QZ2", "A.QZ2", "c.QZ2"})
+            program_->write(QLatin1String(name), playableSet(QByteArray("Set ") + name));
+        program_->write(QStringLiteral("none.QZ2"), "no sections");
+        writeDoc(QStringLiteral("B.QZ2"), playableSet("Mine"));
+        QList<UncheckedFolder> unchecked;
+        const auto trusted = [&]() -> std::optional<QStringList> {
+            DescriptionCache cache(cacheFile, later);
+            unchecked.clear();
+            const auto entries = RelistUnchangedQuestionSets(program_->path(), docs(), cache, unchecked);
+            if (!entries)
+                return std::nullopt;
+            QStringList shown;
+            for (const QuestionSetEntry &e : *entries)
+                shown << e.text;
+            return shown;
+        };
+        const auto listAfresh = [&] {
+            DescriptionCache cache(cacheFile, later);
+            QStringList shown;
+            for (const QuestionSetEntry &e : ListQuestionSets(program_->path(), docs(), &cache))
+                shown << e.text;
+            cache.save();
+            return shown;
+        };
+
+        QVERIFY(!trusted()); // nothing known yet
+        const QStringList read = listAfresh();
+        QCOMPARE(read, lines({"A.QZ2\tSet A.QZ2", "B.QZ2\tMine", "b.QZ2\tSet b.QZ2", "c.QZ2\tSet c.QZ2"}));
+        QCOMPARE(trusted(), read);
+        QCOMPARE(unchecked.size(), 2);
+        QVERIFY(StillAsListed(unchecked));
+
+        program_->write(QStringLiteral("c.QZ2"), playableSet("Written in place"));
+        QCOMPARE(trusted(), read); // the folder is as it was
+        QVERIFY(!StillAsListed(unchecked));
+        QVERIFY(listAfresh().contains(QStringLiteral("c.QZ2\tWritten in place")));
+        QVERIFY(trusted() && trusted()->contains(QStringLiteral("c.QZ2\tWritten in place")));
+
+        // A file added, removed or renamed changes its folder.
+        writeDoc(QStringLiteral("new.QZ2"), playableSet("New"));
+        QVERIFY(!trusted());
+        listAfresh();
+        QVERIFY(trusted());
+        QVERIFY(QFile::rename(program_->file(QStringLiteral("b.QZ2")), program_->file(QStringLiteral("d.QZ2"))));
+        QVERIFY(!trusted());
+
+        // A folder listed just after it changed is not trusted, nor one
+        // short of a file that had not settled.
+        {
+            DescriptionCache now(cacheFile);
+            ListQuestionSets(program_->path(), docs(), &now);
+            now.save();
+        }
+        QVERIFY(!trusted());
+        const qint64 at = 1'000'000'000'000'000'000;
+        const FileStamp settledFile{10, at - 9'000'000'000, at - 9'000'000'000, 7};
+        for (const qint64 ago : {qint64(1'000'000'000), qint64(3'000'000'000)}) {
+            const FileStamp folder{4096, at - ago, at - ago, 5};
+            DescriptionCache then(cacheFile, at);
+            then.listFolder(QStringLiteral("/sets/"), folder);
+            then.remember(QStringLiteral("/sets/"), QStringLiteral("a.QZ2"), settledFile, QStringLiteral("A"));
+            then.save();
+            const DescriptionCache later(cacheFile, at + 3'600'000'000'000);
+            QCOMPARE(later.unchanged(QStringLiteral("/sets/"), folder), ago > 2'000'000'000);
+            QVERIFY(!later.unchanged(QStringLiteral("/sets/"), {4096, at, at, 5}));
+        }
+
+        // No documents folder is a folder that stays as it is, until made.
+        QVERIFY(QDir(docs()).removeRecursively());
+        listAfresh();
+        QVERIFY(trusted());
+        QVERIFY(QDir().mkpath(docs()));
+        QVERIFY(!trusted());
+    }
+
+    // The home screen made with a listing taken on trust looks at the sets
+    // once it has painted, and fills the list afresh if one was written,
+    // keeping the entry selected.
+    void homeScreenRefillsWhenASetTakenOnTrustWasWritten()
+    {
+        for (const char *name : {"a.QZ2", "b.QZ2"})
+            program_->write(QLatin1String(name), playableSet(QByteArray("Old ") + name));
+        QList<UncheckedFolder> unchecked;
+        const auto listing = [&] {
+            DescriptionCache cache{QString()};
+            SetListing made{program_->path(), docs(), ListQuestionSets(program_->path(), docs(), &cache),
+                            std::make_unique<DescriptionCache>(QString()), {}};
+            made.unchecked = {{program_->path(), {}}};
+            for (const StampedFile &f : OrdinaryFilesIn(program_->path(), [](const QString &) { return true; }))
+                made.unchecked.first().files.append({f.name, f.stamp, QString()});
+            return made;
+        };
+        home_ = new frmSelect(state_, libraries_, nullptr, listing);
+        home_->show();
+        QVERIFY(QTest::qWaitForWindowExposed(home_));
+        home_->lstQuestions->setCurrentRow(1);
+        home_->repaint();
+        QCoreApplication::processEvents(); // the check begins after the paint
+        home_->waitForSetsChecked();
+        QCOMPARE(texts(home_->lstQuestions), lines({"a.QZ2\tOld a.QZ2", "b.QZ2\tOld b.QZ2"}));
+
+        SetListing before = listing();
+        program_->write(QStringLiteral("b.QZ2"), playableSet("New b"));
+        delete home_.data();
+        home_ = new frmSelect(state_, libraries_, nullptr, [&before] { return std::move(before); });
+        home_->show();
+        QVERIFY(QTest::qWaitForWindowExposed(home_));
+        home_->lstQuestions->setCurrentRow(1);
+        QCOMPARE(texts(home_->lstQuestions), lines({"a.QZ2\tOld a.QZ2", "b.QZ2\tOld b.QZ2"}));
+        home_->repaint();
+        QCoreApplication::processEvents();
+        home_->waitForSetsChecked();
+        QCOMPARE(texts(home_->lstQuestions), lines({"a.QZ2\tOld a.QZ2", "b.QZ2\tNew b"}));
+        QCOMPARE(home_->lstQuestions->currentRow(), 1);
+    }
+
     // The list's column needs the widest file name; the cache may answer
     // only while its answer is still the truth.
     void widestFileNameStaysTrue()
@@ -188,7 +320,7 @@ private slots:
         program_->write(QStringLiteral("real.QZ2"), playableSet("Real"));
         const auto ahead = [](const QString &program, const QString &documents) {
             return SetListing{program, documents, {{QStringLiteral("ahead.QZ2\tMade ahead"), 0, false}},
-                              std::make_unique<DescriptionCache>(QString())};
+                              std::make_unique<DescriptionCache>(QString()), {}};
         };
         home_ = new frmSelect(state_, libraries_, nullptr, [&] { return ahead(program_->path(), docs()); });
         QCOMPARE(texts(home_->lstQuestions), QStringList{QStringLiteral("ahead.QZ2\tMade ahead")});

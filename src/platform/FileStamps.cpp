@@ -4,6 +4,7 @@
 
 #include <QFile>
 
+#include <cerrno>
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -56,6 +57,16 @@ QList<StampedFile> OrdinaryFilesIn(const QString &folder, const std::function<bo
     // Gone since, a folder, a pipe or a device: not an ordinary file.
     named.removeIf([](const StampedFile &f) { return f.stamp.size < 0; });
     return named;
+}
+
+FileStamp FolderStamp(const QString &folder)
+{
+    struct stat st;
+    if (::stat(QFile::encodeName(folder).constData(), &st) != 0)
+        return errno == ENOENT || errno == ENOTDIR ? kNoFolder : FileStamp{};
+    if (!S_ISDIR(st.st_mode))
+        return kNoFolder;
+    return {qint64(st.st_size), nanoseconds(st.st_mtim), nanoseconds(st.st_ctim), quint64(st.st_ino)};
 }
 
 qint64 StampClockNowNs()

@@ -24,5 +24,11 @@ struct StampedFile {
 // order the file system gives. A folder that cannot be read has none.
 QList<StampedFile> OrdinaryFilesIn(const QString &folder, const std::function<bool(const QString &)> &wanted);
 
+// A folder's own stamp, which changes as files are added to it, removed or
+// renamed (not as they are written). A folder that does not exist has the
+// stamp kNoFolder; one that cannot be looked at, an unknown stamp (size -1).
+inline constexpr FileStamp kNoFolder{-2, 0, 0, 0};
+FileStamp FolderStamp(const QString &folder);
+
 // The time now in the terms of a stamp: nanoseconds since 1970.
 qint64 StampClockNowNs();

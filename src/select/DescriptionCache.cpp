@@ -9,14 +9,15 @@
 #include <cstdio>
 #include <cstring>
 
-// The file: a mark, then for each folder its path and its files, each with
-// name, stamp and description, then the widest name, then the mark again. Texts are stored as
-// their UTF-16 code units, so that every one comes back exactly; numbers in
-// the machine's own order, since the cache never leaves it.
+// The file: a mark, then for each folder its path, its own stamp and its
+// files, each with name, stamp and description, then the widest name, then
+// the mark again. Texts are stored as their UTF-16 code units, so that
+// every one comes back exactly; numbers in the machine's own order, since
+// the cache never leaves it.
 
 namespace {
 
-constexpr char kMark[8] = {'Q', 'Z', 'D', 'C', '0', '0', '0', '2'};
+constexpr char kMark[8] = {'Q', 'Z', 'D', 'C', '0', '0', '0', '3'};
 constexpr qint64 kSettledNs = 2'000'000'000;
 // Far beyond any real cache (some 400,000 sets): a larger file is not
 // read at all.
@@ -109,19 +110,19 @@ bool DescriptionCache::read(const QByteArray &bytes)
     if (!in.number(folders))
         return false;
     for (quint32 f = 0; f < folders; ++f) {
-        QString folder;
+        QString name;
+        Folder folder;
         quint32 files = 0;
-        if (!in.text(folder) || !in.number(files))
+        if (!in.text(name) || !in.stamp(folder.stamp) || !in.number(files) || loaded_.contains(name))
             return false;
-        loadedOrder_ << folder;
-        QHash<QString, Known> &known = loaded_[folder];
         for (quint32 i = 0; i < files; ++i) {
-            QString name;
-            Known entry;
-            if (!in.text(name) || !in.stamp(entry.stamp) || !in.text(entry.description))
+            KnownFile file;
+            if (!in.text(file.name) || !in.stamp(file.stamp) || !in.text(file.description))
                 return false;
-            known.insert(name, entry);
+            folder.files.append(std::move(file));
         }
+        loadedOrder_ << name;
+        loaded_.insert(name, std::move(folder));
     }
     qint32 width = -1;
     quint32 folderCount = 0;
@@ -146,51 +147,90 @@ QString DescriptionCache::defaultFile()
     return QStandardPaths::writableLocation(QStandardPaths::CacheLocation) + QStringLiteral("/set-descriptions");
 }
 
+bool DescriptionCache::settled(const FileStamp &stamp) const
+{
+    return stamp.size != -1 && stamp.modifiedNs < nowNs_ - kSettledNs && stamp.changedNs < nowNs_ - kSettledNs;
+}
+
+DescriptionCache::Folder &DescriptionCache::listed(const QString &folder)
+{
+    const auto known = listed_.find(folder);
+    if (known != listed_.end())
+        return *known;
+    listedOrder_ << folder;
+    return listed_[folder];
+}
+
 const QString *DescriptionCache::find(const QString &folder, const QString &name, const FileStamp &stamp) const
 {
-    // Thousands of files of one folder come in a row: its table is looked
-    // up once for all of them.
-    if (!lastFound_ || folder != lastFoundFolder_) {
-        const auto files = loaded_.constFind(folder);
-        if (files == loaded_.constEnd())
-            return nullptr;
-        lastFound_ = &*files;
-        lastFoundFolder_ = folder;
+    const auto files = loaded_.constFind(folder);
+    if (files == loaded_.constEnd())
+        return nullptr;
+    if (files->byName.isEmpty() && !files->files.isEmpty()) {
+        files->byName.reserve(files->files.size());
+        for (qsizetype i = 0; i < files->files.size(); ++i)
+            files->byName.insert(files->files.at(i).name, i);
     }
-    const auto known = lastFound_->constFind(name);
-    if (known == lastFound_->constEnd() || known->stamp != stamp)
+    const auto known = files->byName.constFind(name);
+    if (known == files->byName.constEnd() || files->files.at(*known).stamp != stamp)
         return nullptr;
     ++hits_;
-    return &known->description;
+    return &files->files.at(*known).description;
+}
+
+void DescriptionCache::listFolder(const QString &folder, const FileStamp &folderStamp)
+{
+    // A stamp that had not settled may be a changed folder's yet: such a
+    // folder is never taken on trust.
+    listed(folder).stamp = settled(folderStamp) ? folderStamp : FileStamp{};
 }
 
 void DescriptionCache::remember(const QString &folder, const QString &name, const FileStamp &stamp,
                                 const QString &description)
 {
-    if (!lastListed_ || folder != lastListedFolder_) {
-        if (!listed_.contains(folder))
-            listedOrder_ << folder;
-        lastListed_ = &listed_[folder];
-        lastListedFolder_ = folder;
-    }
-    if (stamp.modifiedNs >= nowNs_ - kSettledNs || stamp.changedNs >= nowNs_ - kSettledNs) {
-        changed_ = true; // kept no longer
+    Folder &files = listed(folder);
+    if (!settled(stamp)) {
+        changed_ = true;         // kept no longer
+        files.stamp = FileStamp{}; // nor the folder, one file short
         return;
     }
-    lastListed_->append({name, {stamp, description}});
+    files.files.append({name, stamp, description});
+}
+
+bool DescriptionCache::unchanged(const QString &folder, const FileStamp &folderStamp) const
+{
+    const auto known = loaded_.constFind(folder);
+    return known != loaded_.constEnd() && known->stamp.size != -1 && known->stamp == folderStamp;
+}
+
+const QList<DescriptionCache::KnownFile> *DescriptionCache::relistUnchanged(const QString &folder,
+                                                                           const FileStamp &folderStamp)
+{
+    if (!unchanged(folder, folderStamp) || listed_.contains(folder))
+        return nullptr;
+    const auto known = loaded_.constFind(folder);
+    Folder &again = listed(folder);
+    again.stamp = known->stamp;
+    again.files = known->files;
+    hits_ += int(again.files.size());
+    return &again.files;
 }
 
 bool DescriptionCache::changed() const
 {
-    if (changed_ || widestNow_ != widest_)
+    if (changed_ || widestNow_ != widest_ || loadedOrder_.mid(0, listedOrder_.size()) != listedOrder_)
         return true;
-    // Every file of the listed folders found as it was, and none gone.
+    // Every file of the listed folders found as it was, none gone, and the
+    // folders as they were.
     qsizetype known = 0, kept = 0;
     for (auto folder = listed_.constBegin(); folder != listed_.constEnd(); ++folder) {
-        known += loaded_.value(folder.key()).size();
-        kept += folder->size();
+        const Folder &before = loaded_[folder.key()];
+        if (before.stamp != folder->stamp)
+            return true;
+        known += before.files.size();
+        kept += folder->files.size();
     }
-    return hits_ != kept || kept != known || loadedOrder_.mid(0, listed_.size()) != listedOrder_;
+    return hits_ != kept || kept != known;
 }
 
 void DescriptionCache::save() const
@@ -205,26 +245,20 @@ void DescriptionCache::save() const
     Writer out;
     out.mark();
     out.number(quint32(listed_.size() + others.size()));
-    for (const QString &folder : listedOrder_) {
-        const QList<Named> &files = listed_[folder];
-        out.text(folder);
-        out.number(quint32(files.size()));
-        for (const Named &file : files) {
+    const auto write = [&out](const QString &name, const Folder &folder) {
+        out.text(name);
+        out.stamp(folder.stamp);
+        out.number(quint32(folder.files.size()));
+        for (const KnownFile &file : folder.files) {
             out.text(file.name);
-            out.stamp(file.known.stamp);
-            out.text(file.known.description);
+            out.stamp(file.stamp);
+            out.text(file.description);
         }
-    }
-    for (const QString &folder : others) {
-        const QHash<QString, Known> &files = loaded_[folder];
-        out.text(folder);
-        out.number(quint32(files.size()));
-        for (auto file = files.constBegin(); file != files.constEnd(); ++file) {
-            out.text(file.key());
-            out.stamp(file->stamp);
-            out.text(file->description);
-        }
-    }
+    };
+    for (const QString &folder : listedOrder_)
+        write(folder, listed_[folder]);
+    for (const QString &folder : others)
+        write(folder, loaded_[folder]);
     out.number(quint32(widestNow_.folders.size()));
     for (const QString &folder : widestNow_.folders)
         out.text(folder);

@@ -4,6 +4,7 @@
 #include "platform/EveryCore.h"
 
 #include <algorithm>
+#include <numeric>
 
 namespace {
 
@@ -15,7 +16,7 @@ constexpr qsizetype kFilesPerCore = 256;
 // the file is unchanged, else read. With thousands of sets the home screen
 // waits on these reads, one small file each, so they are shared out among
 // the cores.
-QStringList Descriptions(const QString &folder, const QList<StampedFile> &files, DescriptionCache *cache,
+QStringList Descriptions(const QString &folder, const QList<StampedFile> &files, const DescriptionCache *cache,
                          QList<bool> &cached)
 {
     QStringList descriptions(files.size());
@@ -34,10 +35,6 @@ QStringList Descriptions(const QString &folder, const QList<StampedFile> &files,
         for (qsizetype k = from; k < to; ++k)
             out[unknown.at(k)] = GameReads::Description(folder + files.at(unknown.at(k)).name);
     });
-    if (cache) {
-        for (qsizetype i = 0; i < files.size(); ++i)
-            cache->remember(folder, files.at(i).name, files.at(i).stamp, out[i]);
-    }
     return descriptions;
 }
 
@@ -48,15 +45,28 @@ bool IsSetFileName(const QString &name)
     return !name.startsWith(QLatin1Char('.')) && name.endsWith(QStringLiteral(".QZ2"), Qt::CaseInsensitive);
 }
 
+// A folder's entries in the list's order. The cache learns every file,
+// the sets and the rest, in that order too, so that an unchanged folder's
+// files come back from it already sorted.
 QList<QuestionSetEntry> Describe(const QString &folder, const QList<StampedFile> &files, int folderCode,
                                  DescriptionCache *cache)
 {
     QList<bool> cached;
     const QStringList descriptions = Descriptions(folder, files, cache, cached);
+    QStringList texts;
+    texts.reserve(files.size());
+    for (qsizetype i = 0; i < files.size(); ++i)
+        texts << files.at(i).name + QLatin1Char('\t') + descriptions.at(i);
+    QList<qsizetype> order(files.size());
+    std::iota(order.begin(), order.end(), qsizetype(0));
+    std::stable_sort(order.begin(), order.end(),
+                     [&texts](qsizetype a, qsizetype b) { return EntryBefore(texts.at(a), texts.at(b)); });
     QList<QuestionSetEntry> entries;
-    for (qsizetype i = 0; i < files.size(); ++i) {
+    for (const qsizetype i : order) {
+        if (cache)
+            cache->remember(folder, files.at(i).name, files.at(i).stamp, descriptions.at(i));
         if (GameReads::IsQuestionSet(descriptions.at(i)))
-            entries.append({files.at(i).name + QLatin1Char('\t') + descriptions.at(i), folderCode, cached.at(i)});
+            entries.append({texts.at(i), folderCode, cached.at(i)});
     }
     return entries;
 }
@@ -66,15 +76,37 @@ QList<StampedFile> SetFilesIn(const QString &folder)
     return folder.isEmpty() ? QList<StampedFile>() : OrdinaryFilesIn(folder, IsSetFileName);
 }
 
-// Both folders' stamped files described and sorted as the list shows them.
-QList<QuestionSetEntry> Listed(const QString &programFolder, const QList<StampedFile> &programFiles,
-                               const QString &documentsFolder, const QList<StampedFile> &documentFiles,
-                               DescriptionCache *cache)
+// Both folders' entries as the list shows them: each folder's in order,
+// merged, the program folder's first where two read alike.
+QList<QuestionSetEntry> Merged(const QList<QuestionSetEntry> &program, const QList<QuestionSetEntry> &documents)
 {
-    QList<QuestionSetEntry> entries = Describe(programFolder, programFiles, 0, cache);
-    entries += Describe(documentsFolder, documentFiles, 1, cache);
-    std::stable_sort(entries.begin(), entries.end(),
-                     [](const QuestionSetEntry &a, const QuestionSetEntry &b) { return EntryBefore(a.text, b.text); });
+    QList<QuestionSetEntry> entries(program.size() + documents.size());
+    std::merge(program.cbegin(), program.cend(), documents.cbegin(), documents.cend(), entries.begin(),
+               [](const QuestionSetEntry &a, const QuestionSetEntry &b) { return EntryBefore(a.text, b.text); });
+    return entries;
+}
+
+// An unchanged folder's entries as the cache has them, or nothing when the
+// folder has changed.
+std::optional<QList<QuestionSetEntry>> Relisted(const QString &folder, const FileStamp &folderStamp, int folderCode,
+                                                DescriptionCache &cache, QList<UncheckedFolder> &unchecked)
+{
+    if (folder.isEmpty())
+        return QList<QuestionSetEntry>();
+    const QList<DescriptionCache::KnownFile> *files = cache.relistUnchanged(folder, folderStamp);
+    if (!files)
+        return std::nullopt;
+    QList<QuestionSetEntry> entries;
+    entries.reserve(files->size());
+    for (const DescriptionCache::KnownFile &file : *files) {
+        if (GameReads::IsQuestionSet(file.description))
+            entries.append({file.name + QLatin1Char('\t') + file.description, folderCode, true});
+    }
+    // Kept in order by this program; any other order is no cache of it.
+    const auto before = [](const QuestionSetEntry &a, const QuestionSetEntry &b) { return EntryBefore(a.text, b.text); };
+    if (!std::is_sorted(entries.cbegin(), entries.cend(), before))
+        std::stable_sort(entries.begin(), entries.end(), before);
+    unchecked.append({folder, *files});
     return entries;
 }
 
@@ -88,7 +120,57 @@ bool EntryBefore(const QString &a, const QString &b)
 QList<QuestionSetEntry> ListQuestionSets(const QString &programFolder, const QString &documentsFolder,
                                          DescriptionCache *cache)
 {
-    return Listed(programFolder, SetFilesIn(programFolder), documentsFolder, SetFilesIn(documentsFolder), cache);
+    // Each folder is stamped before its files are looked at: a change while
+    // they are looked at shows as a changed folder next time.
+    for (const QString &folder : {programFolder, documentsFolder}) {
+        if (cache && !folder.isEmpty())
+            cache->listFolder(folder, FolderStamp(folder));
+    }
+    const QList<QuestionSetEntry> program = Describe(programFolder, SetFilesIn(programFolder), 0, cache);
+    return Merged(program, Describe(documentsFolder, SetFilesIn(documentsFolder), 1, cache));
+}
+
+std::optional<QList<QuestionSetEntry>> RelistUnchangedQuestionSets(const QString &programFolder,
+                                                                   const QString &documentsFolder,
+                                                                   DescriptionCache &cache,
+                                                                   QList<UncheckedFolder> &unchecked)
+{
+    const FileStamp programStamp = FolderStamp(programFolder);
+    const FileStamp documentsStamp = FolderStamp(documentsFolder);
+    const auto unchanged = [&cache](const QString &folder, const FileStamp &stamp) {
+        return folder.isEmpty() || cache.unchanged(folder, stamp);
+    };
+    if (!unchanged(programFolder, programStamp) || !unchanged(documentsFolder, documentsStamp) ||
+        programFolder == documentsFolder)
+        return std::nullopt;
+    QList<UncheckedFolder> relisted;
+    const std::optional<QList<QuestionSetEntry>> program = Relisted(programFolder, programStamp, 0, cache, relisted);
+    if (!program)
+        return std::nullopt;
+    const std::optional<QList<QuestionSetEntry>> documents =
+        Relisted(documentsFolder, documentsStamp, 1, cache, relisted);
+    if (!documents)
+        return std::nullopt;
+    unchecked += relisted;
+    return Merged(*program, *documents);
+}
+
+bool StillAsListed(const QList<UncheckedFolder> &folders)
+{
+    const auto byName = [](const auto &a, const auto &b) { return a.name < b.name; };
+    for (const UncheckedFolder &folder : folders) {
+        QList<StampedFile> now = SetFilesIn(folder.folder);
+        QList<DescriptionCache::KnownFile> then = folder.files;
+        if (now.size() != then.size())
+            return false;
+        std::sort(now.begin(), now.end(), byName);
+        std::sort(then.begin(), then.end(), byName);
+        for (qsizetype i = 0; i < now.size(); ++i) {
+            if (now.at(i).name != then.at(i).name || now.at(i).stamp != then.at(i).stamp)
+                return false;
+        }
+    }
+    return true;
 }
 
 QString EntryFileName(const QString &text)
@@ -96,15 +178,19 @@ QString EntryFileName(const QString &text)
     return text.section(QLatin1Char('\t'), 0, 0);
 }
 
-SetListing ListSets(const QString &programFolder, const QString &documentsFolder)
+SetListing ListSets(const QString &programFolder, const QString &documentsFolder, bool trustUnchangedFolders)
 {
-    // The cache is read while the folders are stamped.
-    const auto read = [] { return std::make_unique<DescriptionCache>(DescriptionCache::defaultFile()); };
-    std::future<std::unique_ptr<DescriptionCache>> reading = OnAnotherCore(read);
-    const QList<StampedFile> programFiles = SetFilesIn(programFolder);
-    const QList<StampedFile> documentFiles = SetFilesIn(documentsFolder);
-    SetListing listing{programFolder, documentsFolder, {}, reading.valid() ? reading.get() : read()};
-    listing.entries = Listed(programFolder, programFiles, documentsFolder, documentFiles, listing.cache.get());
+    SetListing listing{programFolder, documentsFolder, {},
+                       std::make_unique<DescriptionCache>(DescriptionCache::defaultFile()), {}};
+    if (trustUnchangedFolders) {
+        std::optional<QList<QuestionSetEntry>> relisted =
+            RelistUnchangedQuestionSets(programFolder, documentsFolder, *listing.cache, listing.unchecked);
+        if (relisted) {
+            listing.entries = std::move(*relisted);
+            return listing;
+        }
+    }
+    listing.entries = ListQuestionSets(programFolder, documentsFolder, listing.cache.get());
     return listing;
 }
 

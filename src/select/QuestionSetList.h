@@ -11,6 +11,7 @@
 #include <QString>
 
 #include <memory>
+#include <optional>
 
 struct QuestionSetEntry {
     QString text;        // file name, tab, description
@@ -25,6 +26,25 @@ struct QuestionSetEntry {
 QList<QuestionSetEntry> ListQuestionSets(const QString &programFolder, const QString &documentsFolder,
                                          DescriptionCache *cache = nullptr);
 
+// A folder whose files were taken on trust, as the cache had them.
+struct UncheckedFolder {
+    QString folder;
+    QList<DescriptionCache::KnownFile> files;
+};
+
+// The whole list as ListQuestionSets gives it, taken from the cache alone
+// when neither folder has changed (no file added, removed or renamed in
+// it): ten thousand files need not be looked at before the list shows.
+// Nothing when one has changed. The folders taken on trust are added to
+// unchecked: a file may have been written in place since.
+std::optional<QList<QuestionSetEntry>> RelistUnchangedQuestionSets(const QString &programFolder,
+                                                                   const QString &documentsFolder,
+                                                                   DescriptionCache &cache,
+                                                                   QList<UncheckedFolder> &unchecked);
+
+// Whether the folders' set files are still those, each at its stamp.
+bool StillAsListed(const QList<UncheckedFolder> &folders);
+
 // Orders entries as the list shows them.
 bool EntryBefore(const QString &a, const QString &b);
 
@@ -32,14 +52,16 @@ bool EntryBefore(const QString &a, const QString &b);
 QString EntryFileName(const QString &text);
 
 // The sets of both folders as the home screen lists them, with the user's
-// cache of descriptions that answered (to be saved once the list is shown).
+// cache of descriptions that answered (to be saved once the list is shown),
+// and the folders taken on trust if unchanged folders may be.
 struct SetListing {
     QString programFolder;
     QString documentsFolder;
     QList<QuestionSetEntry> entries;
     std::unique_ptr<DescriptionCache> cache;
+    QList<UncheckedFolder> unchecked;
 };
-SetListing ListSets(const QString &programFolder, const QString &documentsFolder);
+SetListing ListSets(const QString &programFolder, const QString &documentsFolder, bool trustUnchangedFolders = false);
 
 // The widest file name of the entries in pixels of these metrics, as the
 // list's column needs it. Measuring ten thousand names takes long, so the

@@ -31,7 +31,7 @@ StartupPrefetch::StartupPrefetch()
     fontConfiguration_ = OnAnotherCore([] { FcInit(); });
     listing_ = OnAnotherCore([] {
         return ListSets(ModuleFileName::programFolder(),
-                        clsShellFolders().GetSpecialFolderLocation(0, SpecialFolders::kDocuments));
+                        clsShellFolders().GetSpecialFolderLocation(0, SpecialFolders::kDocuments), true);
     });
 }
 

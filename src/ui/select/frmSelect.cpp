@@ -30,6 +30,11 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPainter>
+#include <QThread>
+#include <QTimer>
+
+#include <atomic>
+#include <memory>
 
 namespace {
 
@@ -61,6 +66,46 @@ frmSelect::frmSelect(GameState &state, Libraries &libraries, QWidget *parent, st
 frmSelect::~frmSelect()
 {
     delete console_.data();
+    if (checker_)
+        checker_->wait(); // it reads none of this screen, but its code must not go first
+}
+
+void frmSelect::checkSetsTakenOnTrust()
+{
+    if (unchecked_.isEmpty() || checker_)
+        return;
+    auto written = std::make_shared<std::atomic_bool>(false);
+    checker_.reset(QThread::create([folders = std::exchange(unchecked_, {}), written] {
+        *written = !StillAsListed(folders);
+    }));
+    connect(checker_.get(), &QThread::finished, this, [this, written] {
+        if (*written)
+            refillKeepingSelection();
+    });
+    checker_->start(QThread::LowPriority);
+}
+
+void frmSelect::waitForSetsChecked()
+{
+    if (!checker_)
+        return;
+    checker_->wait();
+    QCoreApplication::sendPostedEvents(this, QEvent::MetaCall); // its end, handled here
+}
+
+void frmSelect::refillKeepingSelection()
+{
+    const QListWidgetItem *selected = selectedEntry();
+    const QString path = selected ? GetEntryPath(selected) : QString();
+    PopulateQZ2();
+    for (int row = 0; row < lstQuestions->count(); ++row) {
+        if (!path.isEmpty() && GetEntryPath(lstQuestions->item(row)) == path) {
+            lstQuestions->setCurrentRow(row);
+            return;
+        }
+    }
+    if (selected && lstQuestions->count() > 0)
+        lstQuestions->setCurrentRow(0);
 }
 
 void frmSelect::createControls()
@@ -135,6 +180,7 @@ void frmSelect::PopulateQZ2()
     SetListing listing = ahead_ ? std::exchange(ahead_, nullptr)() : SetListing{};
     if (!listing.cache || listing.programFolder != program || listing.documentsFolder != documents)
         listing = ListSets(program, documents);
+    unchecked_ = std::move(listing.unchecked);
     const QList<QuestionSetEntry> &entries = listing.entries;
     QStringList texts;
     texts.reserve(entries.size());
@@ -345,6 +391,8 @@ void frmSelect::resizeEvent(QResizeEvent *event)
 
 void frmSelect::paintEvent(QPaintEvent *)
 {
+    if (!unchecked_.isEmpty())
+        QTimer::singleShot(0, this, &frmSelect::checkSetsTakenOnTrust);
     QPainter p(this);
     PaintBackdrop(p, rect());
     // The band shows the banner's middle, cut at both sides.

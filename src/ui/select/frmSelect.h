@@ -53,6 +53,9 @@ public:
 
     // Fills the list afresh from both folders; no entry is selected after.
     void PopulateQZ2();
+    // Waits until the sets taken on trust have been looked at, if they are
+    // being looked at, and the list filled afresh if need be (for tests).
+    void waitForSetsChecked();
     // The full path of the file behind an entry.
     QString GetEntryPath(const QListWidgetItem *entry) const;
 
@@ -108,6 +111,11 @@ private:
     // follow the board from its load.
     using BoardOpener = std::function<frmMain *(QScreen *, const std::function<void(frmMain *)> &)>;
     void openBoard(const BoardOpener &start);
+    // Sets taken on trust from the cache (their folders unchanged) are
+    // looked at on another core once the screen has painted; should one
+    // have been written since, the list is filled afresh.
+    void checkSetsTakenOnTrust();
+    void refillKeepingSelection();
 
     GameState &state_;
     Libraries &libraries_;
@@ -120,4 +128,6 @@ private:
     bool consoleByHand_ = false;
     GameJournal journal_;
     std::function<SetListing()> ahead_;
+    QList<UncheckedFolder> unchecked_;
+    std::unique_ptr<QThread> checker_;
 };
