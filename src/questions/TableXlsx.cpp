@@ -13,6 +13,7 @@
 #include <QXmlStreamReader>
 
 #include <cmath>
+#include <dlfcn.h>
 
 namespace {
 
@@ -225,7 +226,55 @@ bool isWholeNumber(const QString &text)
     return digits.match(text).hasMatch();
 }
 
-lxw_error writeCells(lxw_worksheet *sheet, const Table &table, lxw_format *header)
+// libxlsxwriter is opened when a workbook is first written, not with the
+// program: it brings a cryptography library whose loading every start of
+// the game would otherwise pay for, and few ever export.
+struct XlsxWriter {
+    decltype(&::workbook_new) workbookNew = nullptr;
+    decltype(&::workbook_add_worksheet) addWorksheet = nullptr;
+    decltype(&::workbook_add_format) addFormat = nullptr;
+    decltype(&::workbook_close) close = nullptr;
+    decltype(&::format_set_bold) setBold = nullptr;
+    decltype(&::format_set_text_wrap) setTextWrap = nullptr;
+    decltype(&::format_set_align) setAlign = nullptr;
+    decltype(&::worksheet_set_column) setColumn = nullptr;
+    decltype(&::worksheet_freeze_panes) freezePanes = nullptr;
+    decltype(&::worksheet_write_string) writeString = nullptr;
+    decltype(&::worksheet_write_number) writeNumber = nullptr;
+    decltype(&::lxw_strerror) strerror = nullptr;
+
+    bool bind(void *library)
+    {
+        return library && find(library, "workbook_new", workbookNew) &&
+               find(library, "workbook_add_worksheet", addWorksheet) &&
+               find(library, "workbook_add_format", addFormat) && find(library, "workbook_close", close) &&
+               find(library, "format_set_bold", setBold) && find(library, "format_set_text_wrap", setTextWrap) &&
+               find(library, "format_set_align", setAlign) && find(library, "worksheet_set_column", setColumn) &&
+               find(library, "worksheet_freeze_panes", freezePanes) &&
+               find(library, "worksheet_write_string", writeString) &&
+               find(library, "worksheet_write_number", writeNumber) && find(library, "lxw_strerror", strerror);
+    }
+
+private:
+    template <typename F> static bool find(void *library, const char *name, F &function)
+    {
+        function = reinterpret_cast<F>(::dlsym(library, name));
+        return function != nullptr;
+    }
+};
+
+// The library's functions, or null when it cannot be had; bound once and
+// kept for the life of the process.
+const XlsxWriter *xlsxWriter()
+{
+    static const XlsxWriter bound = [] {
+        XlsxWriter w;
+        return w.bind(::dlopen(QUIZZARR_XLSXWRITER_LIBRARY, RTLD_NOW | RTLD_LOCAL)) ? w : XlsxWriter{};
+    }();
+    return bound.workbookNew ? &bound : nullptr;
+}
+
+lxw_error writeCells(const XlsxWriter &xlsx, lxw_worksheet *sheet, const Table &table, lxw_format *header)
 {
     for (const TableRow &row : table.rows) {
         const auto r = lxw_row_t(row.number - 1);
@@ -235,9 +284,9 @@ lxw_error writeCells(lxw_worksheet *sheet, const Table &table, lxw_format *heade
             if (text.isEmpty())
                 continue;
             if (r > 0 && table.numberColumns.contains(int(c)) && isWholeNumber(text))
-                e = worksheet_write_number(sheet, r, lxw_col_t(c), text.toDouble(), nullptr);
+                e = xlsx.writeNumber(sheet, r, lxw_col_t(c), text.toDouble(), nullptr);
             else
-                e = worksheet_write_string(sheet, r, lxw_col_t(c), escapedUtf8(text).constData(), r == 0 ? header : nullptr);
+                e = xlsx.writeString(sheet, r, lxw_col_t(c), escapedUtf8(text).constData(), r == 0 ? header : nullptr);
             if (e != LXW_NO_ERROR)
                 return e;
         }
@@ -269,28 +318,33 @@ QByteArray TableXlsx::write(const Table &table, FileError *error)
 {
     // libxlsxwriter writes only to a file: a private one, whose bytes then
     // replace the target as safely as every other file of the game.
+    const XlsxWriter *xlsx = xlsxWriter();
+    if (!xlsx) {
+        *error = {ENOENT, QStringLiteral(QUIZZARR_XLSXWRITER_LIBRARY " (libxlsxwriter) could not be loaded")};
+        return {};
+    }
     QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("table.xlsx"));
-    lxw_workbook *book = folder.isValid() ? workbook_new(QFile::encodeName(path).constData()) : nullptr;
+    lxw_workbook *book = folder.isValid() ? xlsx->workbookNew(QFile::encodeName(path).constData()) : nullptr;
     if (!book) {
         *error = {EIO, QStringLiteral("no temporary file for the workbook")};
         return {};
     }
-    lxw_worksheet *sheet = workbook_add_worksheet(book, "Questions");
-    lxw_format *header = workbook_add_format(book);
-    format_set_bold(header);
-    lxw_format *wrapped = workbook_add_format(book);
-    format_set_text_wrap(wrapped);
-    format_set_align(wrapped, LXW_ALIGN_VERTICAL_TOP);
+    lxw_worksheet *sheet = xlsx->addWorksheet(book, "Questions");
+    lxw_format *header = xlsx->addFormat(book);
+    xlsx->setBold(header);
+    lxw_format *wrapped = xlsx->addFormat(book);
+    xlsx->setTextWrap(wrapped);
+    xlsx->setAlign(wrapped, LXW_ALIGN_VERTICAL_TOP);
     const QList<double> widths = columnWidths(table);
     for (qsizetype c = 0; c < widths.size(); ++c)
-        worksheet_set_column(sheet, lxw_col_t(c), lxw_col_t(c), widths[c], wrapped);
-    worksheet_freeze_panes(sheet, 1, 0);
-    const lxw_error cells = writeCells(sheet, table, header);
-    const lxw_error closed = workbook_close(book);
+        xlsx->setColumn(sheet, lxw_col_t(c), lxw_col_t(c), widths[c], wrapped);
+    xlsx->freezePanes(sheet, 1, 0);
+    const lxw_error cells = writeCells(*xlsx, sheet, table, header);
+    const lxw_error closed = xlsx->close(book);
     const lxw_error e = cells != LXW_NO_ERROR ? cells : closed;
     if (e != LXW_NO_ERROR) {
-        *error = {EIO, QString::fromUtf8(lxw_strerror(e))};
+        *error = {EIO, QString::fromUtf8(xlsx->strerror(e))};
         return {};
     }
     QFile file(path);
