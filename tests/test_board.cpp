@@ -129,7 +129,7 @@ private slots:
         QVERIFY(qAbs(g.categories.top() - 99.62) < 0.01);
         QVERIFY(qAbs(g.rows[4].bottom() - 597.12) < 0.01);
         QCOMPARE(g.left, 80.0);
-        QCOMPARE(g.bannerHeight, g.y0 - 31);
+        QVERIFY(qAbs(g.bannerHeight - 63.62) < 0.01);
 
         // The same on a real board 800 pixels wide, within a pixel.
         std::unique_ptr<BoardUnderTest> board(newBoard(QSize(800, 600)));
@@ -252,17 +252,14 @@ private slots:
     {
         QFETCH(QString, text);
         QFETCH(int, start);
-        int boxes = 0;
         for (int w = 14; w <= 420; w += 17) {
             for (int h = 10; h <= 330; h += 16) {
                 const qreal got = CramText(text, bold(start), start, w, h).points;
                 const int expected = sizeFoundPointByPoint(text, start, w, h);
                 if (int(got) != expected)
                     QFAIL(qPrintable(QStringLiteral("box %1 x %2: %3 instead of %4").arg(w).arg(h).arg(got).arg(expected)));
-                ++boxes;
             }
         }
-        QCOMPARE(boxes, 24 * 21);
     }
 
     void fittingEdgeCases()

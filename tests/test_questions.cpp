@@ -10,9 +10,6 @@
 #include "questions/QuestionSet.h"
 
 #include <QDir>
-#include <QImage>
-#include <QJsonObject>
-#include <QJsonArray>
 #include <QProcess>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
@@ -267,7 +264,6 @@ private slots:
                                   "\r\n[Final]\r\nCategory=Seas\r\nAnswer=It is the largest of them.\r\n"
                                   "Question=What is the ocean?\r\n";
         QCOMPARE(read(path + QStringLiteral(".QZ2")), golden);
-        QCOMPARE(golden.count("\r\n"), 21);
     }
 
     void writesTwoFullRoundsIn166Lines()
@@ -441,8 +437,6 @@ private slots:
                                  "\"answers\": [\"a0\", \"Nothing\", \"Nothing\", \"Nothing\", \"Nothing\"], "
                                  "\"questions\": [\"q0\", \"Nothing\", \"Nothing\", \"Nothing\", \"Nothing\"]}]], "
                                  "\"final\": {\"title\": \"F\", \"answer\": \"fa\", \"question\": \"fq\"}}\n"));
-        const QJsonDocument doc = QJsonDocument::fromJson(out);
-        QVERIFY(doc.isObject());
     }
 
     void qz2PrintsTheHostSheet()

@@ -415,14 +415,6 @@ private slots:
         QCOMPARE(longLabel.scoreCombo.left() - shortLabel.scoreCombo.left(), 40.0);
     }
 
-    void closingTheHomeScreenReleasesTheLibraries()
-    {
-        libraries_.hPictureLib = PictureLibrary::load(QStringLiteral(QUIZZARR_PROGRAM_DIR "/PLOVQBmp.so"));
-        openHome();
-        home_->close();
-        QVERIFY(!libraries_.hPictureLib);
-    }
-
     void exportCopiesTheSelectedSetWhole()
     {
         const QByteArray bytes = playableSet("Exported \xe9");

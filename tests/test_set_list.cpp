@@ -252,7 +252,8 @@ private slots:
         };
         home_ = new frmSelect(state_, libraries_, nullptr, listing);
         home_->show();
-        QVERIFY(QTest::qWaitForWindowExposed(home_));
+        QCoreApplication::processEvents();
+        QVERIFY(home_->windowHandle()->isExposed());
         home_->lstQuestions->setCurrentRow(1);
         home_->repaint();
         QCoreApplication::processEvents(); // the check begins after the paint
@@ -264,7 +265,8 @@ private slots:
         delete home_.data();
         home_ = new frmSelect(state_, libraries_, nullptr, [&before] { return std::move(before); });
         home_->show();
-        QVERIFY(QTest::qWaitForWindowExposed(home_));
+        QCoreApplication::processEvents();
+        QVERIFY(home_->windowHandle()->isExposed());
         home_->lstQuestions->setCurrentRow(1);
         QCOMPARE(texts(home_->lstQuestions), lines({"a.QZ2\tOld a.QZ2", "b.QZ2\tOld b.QZ2"}));
         home_->repaint();
