@@ -4,6 +4,7 @@
 
 #include "FakeClock.h"
 #include "FakeSoundControl.h"
+#include "ListTexts.h"
 #include "ScriptedFileDialog.h"
 #include "ScriptedMsgBox.h"
 #include "TestFolder.h"
@@ -36,18 +37,6 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QtTest>
-
-namespace {
-
-QStringList texts(const QListWidget *list)
-{
-    QStringList t;
-    for (int i = 0; i < list->count(); ++i)
-        t << list->item(i)->text();
-    return t;
-}
-
-} // namespace
 
 class TestSelect : public QObject {
     Q_OBJECT

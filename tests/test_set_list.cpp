@@ -2,6 +2,7 @@
 // descriptions, the widest name it remembers, and the listing made on
 // another core at start.
 
+#include "ListTexts.h"
 #include "TestFolder.h"
 #include "TestSets.h"
 
@@ -29,14 +30,6 @@ QStringList lines(std::initializer_list<const char *> texts)
     for (const char *t : texts)
         l << QString::fromUtf8(t);
     return l;
-}
-
-QStringList texts(const QListWidget *list)
-{
-    QStringList t;
-    for (int i = 0; i < list->count(); ++i)
-        t << list->item(i)->text();
-    return t;
 }
 
 } // namespace
