@@ -8,12 +8,12 @@
 
 #include <QFile>
 #include <QHash>
+#include <QLibrary>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QXmlStreamReader>
 
 #include <cmath>
-#include <dlfcn.h>
 
 namespace {
 
@@ -243,9 +243,9 @@ struct XlsxWriter {
     decltype(&::worksheet_write_number) writeNumber = nullptr;
     decltype(&::lxw_strerror) strerror = nullptr;
 
-    bool bind(void *library)
+    bool bind(QLibrary &library)
     {
-        return library && find(library, "workbook_new", workbookNew) &&
+        return library.load() && find(library, "workbook_new", workbookNew) &&
                find(library, "workbook_add_worksheet", addWorksheet) &&
                find(library, "workbook_add_format", addFormat) && find(library, "workbook_close", close) &&
                find(library, "format_set_bold", setBold) && find(library, "format_set_text_wrap", setTextWrap) &&
@@ -256,20 +256,21 @@ struct XlsxWriter {
     }
 
 private:
-    template <typename F> static bool find(void *library, const char *name, F &function)
+    template <typename F> static bool find(QLibrary &library, const char *name, F &function)
     {
-        function = reinterpret_cast<F>(::dlsym(library, name));
+        function = reinterpret_cast<F>(library.resolve(name));
         return function != nullptr;
     }
 };
 
 // The library's functions, or null when it cannot be had; bound once and
-// kept for the life of the process.
+// kept for the life of the process (a QLibrary left loaded on destruction).
 const XlsxWriter *xlsxWriter()
 {
     static const XlsxWriter bound = [] {
+        QLibrary library(QStringLiteral(QUIZZARR_XLSXWRITER_LIBRARY));
         XlsxWriter w;
-        return w.bind(::dlopen(QUIZZARR_XLSXWRITER_LIBRARY, RTLD_NOW | RTLD_LOCAL)) ? w : XlsxWriter{};
+        return w.bind(library) ? w : XlsxWriter{};
     }();
     return bound.workbookNew ? &bound : nullptr;
 }
