@@ -16,9 +16,8 @@ public:
 protected:
     bool eventFilter(QObject *, QEvent *event) override
     {
-        if (event->type() == QEvent::Paint && !done_) {
-            done_ = true;
-            qApp->removeEventFilter(this);
+        if (event->type() == QEvent::Paint) {
+            qApp->removeEventFilter(this); // sees no later event
             QTimer::singleShot(0, qApp, [name = iconName_] { QApplication::setWindowIcon(QIcon::fromTheme(name)); });
             deleteLater();
         }
@@ -27,7 +26,6 @@ protected:
 
 private:
     QString iconName_;
-    bool done_ = false;
 };
 
 } // namespace
