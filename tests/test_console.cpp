@@ -161,7 +161,7 @@ private slots:
 
         // An ordinary tile: the console shows the response before the class sees it.
         button("cmdTile", plain)->click();
-        QCOMPARE(game.state().stepCode, MakeStepCode("SA", plain));
+        QCOMPARE(game.state().stepCode, MakeStepCode(ClueStep::Clue, plain));
         QCOMPARE(on<QLabel>(console(), QStringLiteral("lblClue"))->text(), QStringLiteral("r1c0a%1").arg(plain / 6));
         QVERIFY(on<QLabel>(console(), QStringLiteral("lblResponse"))->text().endsWith(QStringLiteral("r1c0q%1").arg(plain / 6)));
         QCOMPARE(on(console(), QStringLiteral("cmdNext"))->text(), QStringLiteral("Reveal the response"));
@@ -175,7 +175,7 @@ private slots:
 
         // The daily double: a typed wager, lost.
         button("cmdTile", dd)->click();
-        QCOMPARE(game.state().stepCode, MakeStepCode("SQ", dd));
+        QCOMPARE(game.state().stepCode, MakeStepCode(ClueStep::DailyDouble, dd));
         QCOMPARE(on(console(), QStringLiteral("cmdNext"))->text(), QStringLiteral("Show the clue"));
         next();
         next();

@@ -239,7 +239,7 @@ private slots:
         QVERIFY(view_->timerActive);
         clock_->advance(2000);
         game_->AnswerScreenPress();
-        QCOMPARE(state().stepCode, MakeStepCode("SA", tile)); // too soon: ignored
+        QCOMPARE(state().stepCode, MakeStepCode(ClueStep::Clue, tile)); // too soon: ignored
         clock_->advance(1000);
         game_->AnswerScreenPress();
         QCOMPARE(view_->screenText, QStringLiteral("r1c1q%1").arg(tile / 6));
@@ -259,20 +259,67 @@ private slots:
         pressTile(dd);
         QCOMPARE(view_->requests.last(), QStringLiteral("ZoomTV tile %1 %2").arg(dd).arg(settings_.PicIdDailyDouble));
         QCOMPARE(view_->screenText, QString()); // the picture alone, no value
-        QCOMPARE(state().stepCode, MakeStepCode("SQ", dd));
+        QCOMPARE(state().stepCode, MakeStepCode(ClueStep::DailyDouble, dd));
         QCOMPARE(state().CurrentValue, qint16(100));
         QCOMPARE(played().last(), QStringLiteral("101"));
         QVERIFY(!view_->overlayShown);
         pressScreen();
         QCOMPARE(view_->requests.at(view_->requests.size() - 2),
                  QStringLiteral("RotateTV %1 %2").arg(settings_.PicIdDailyDouble).arg(settings_.PicIdScreen));
-        QCOMPARE(state().stepCode, MakeStepCode("SA", dd));
+        QCOMPARE(state().stepCode, MakeStepCode(ClueStep::Clue, dd));
         QCOMPARE(view_->screenText, QStringLiteral("r1c%1a%2").arg(Tiles::column(dd)).arg(Tiles::row(dd)));
         QVERIFY(view_->overlayShown);
         QCOMPARE(view_->overlayValue, value);
         QCOMPARE(view_->overlayCategory, QStringList({QStringLiteral("Rivers"), QStringLiteral("Lakes"),
                                                       QStringLiteral("Seas")})[Tiles::column(dd)]);
         QCOMPARE(state().CurrentValue, qint16(100));
+    }
+
+    // Every view reads the clue on the screen from the rules, step by step.
+    void openClueFollowsTheScreen_data()
+    {
+        QTest::addColumn<QString>("kind");
+        QTest::addColumn<QList<int>>("steps");
+        using S = ClueStep;
+        QTest::newRow("plain") << QStringLiteral("plain") << QList<int>{int(S::Clue), int(S::Response)};
+        QTest::newRow("daily double") << QStringLiteral("daily")
+                                      << QList<int>{int(S::DailyDouble), int(S::Clue), int(S::Response)};
+        QTest::newRow("final") << QStringLiteral("final")
+                               << QList<int>{int(S::FinalCategory), int(S::FinalClue), int(S::Clue), int(S::Response)};
+    }
+    void openClueFollowsTheScreen()
+    {
+        QFETCH(QString, kind);
+        QFETCH(QList<int>, steps);
+        start(setText({"Rivers", "Lakes", "", "", "", ""}, {}, "Seas"), 2);
+        QSignalSpy changed(game_.get(), &BoardGame::openClueChanged);
+        QVERIFY(!game_->openClue().open);
+        const int tile = kind == QStringLiteral("final") ? -1 : kind == QStringLiteral("daily") ? settings_.DailyDouble1 : plainTile(1);
+        if (tile < 0)
+            QVERIFY(key('N', kAllThree));
+        else
+            pressTile(tile);
+        OpenClue c = game_->openClue();
+        QVERIFY(c.open);
+        QCOMPARE(c.tile, tile);
+        QCOMPARE(c.final, tile < 0);
+        QCOMPARE(c.dailyDouble, kind == QStringLiteral("daily"));
+        const int column = Tiles::column(qMax(0, tile)), row = Tiles::row(qMax(0, tile));
+        QCOMPARE(c.category, tile < 0 ? QStringLiteral("Seas") : column == 0 ? QStringLiteral("Rivers") : QStringLiteral("Lakes"));
+        QCOMPARE(c.value, tile < 0 ? 0 : Tiles::value(tile, 1));
+        QCOMPARE(c.clue, tile < 0 ? QStringLiteral("final clue") : QStringLiteral("r1c%1a%2").arg(column).arg(row));
+        QCOMPARE(c.response, tile < 0 ? QStringLiteral("final response") : QStringLiteral("r1c%1q%2").arg(column).arg(row));
+        if (tile >= 0) {
+            QCOMPARE(c.lockSecondsLeft, 3);
+            clock_->advance(1000);
+            QCOMPARE(game_->openClue().lockSecondsLeft, 2);
+        }
+        for (int step : steps) {
+            QCOMPARE(int(game_->openClue().step), step);
+            pressScreen();
+        }
+        QVERIFY(!game_->openClue().open);
+        QVERIFY(changed.size() >= steps.size() + 1);
     }
 
     void finalIgnoresPressesDuringThinkMusic()
@@ -340,7 +387,7 @@ private slots:
         start(setText({"Rivers", "Lakes", "", "", "", ""}, {}, nullptr), 0);
         const int tile = plainTile(0);
         game_->TilePress(tile, false, true); // another button with all three opens it
-        QCOMPARE(state().stepCode, MakeStepCode("SA", tile));
+        QCOMPARE(state().stepCode, MakeStepCode(ClueStep::Clue, tile));
         pressScreen();
         pressScreen();
         QCOMPARE(state().tileCaption[size_t(tile)], QString());

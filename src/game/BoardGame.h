@@ -7,11 +7,13 @@
 #pragma once
 
 #include "BoardView.h"
+#include "GameRules.h"
 
 #include <QObject>
 #include <QString>
 
 #include <array>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -34,9 +36,33 @@ struct BoardState {
     qint16 CurrentValue = 0;
     qint64 LastClickTime = 0;
     bool paradeRunning = false;
+    // The tile whose clue is open on the answer screen, -1 for the final;
+    // nothing while the board shows.
+    std::optional<int> openTile;
+    // When the final's think music ends (Clock::now seconds); 0 when none.
+    qint64 thinkEnds = 0;
     // Every change of a score since the game started, the last one last:
     // the team (0..9) and the amount added.
     std::vector<std::pair<int, qint32>> scoreHistory;
+};
+
+// The clue on the answer screen, as every view of the game reads it: the
+// board, the host's console, the buzzers.
+struct OpenClue {
+    bool open = false;   // false: the board shows, and nothing below counts
+    int tile = 0;        // 0..29, or -1 for the final
+    QString category;
+    int value = 0;       // the tile's value; 0 for the final
+    QString clue;
+    QString response;
+    QString picture;     // the picture's full path; empty for none
+    bool dailyDouble = false;
+    bool final = false;
+    ClueStep step = ClueStep::Wait;
+    // Whole seconds until a press on the screen counts again, and until
+    // the final's think music ends; 0 when none.
+    int lockSecondsLeft = 0;
+    int thinkSecondsLeft = 0;
 };
 
 class BoardGame : public QObject {
@@ -46,6 +72,8 @@ public:
 
     const BoardState &state() const { return state_; }
     const GameState &settings() const { return settings_; }
+    // The clue on the answer screen now.
+    OpenClue openClue() const;
 
     // Before the first round: the number of scoring teams (0 to 10), every
     // score back to 0.
@@ -93,6 +121,9 @@ signals:
     void tileChanged(int tile);
     void headerChanged(int column);
     void stepCodeChanged();
+    // A clue opened, moved on a step or closed (the lock's seconds run out
+    // unannounced: a watcher that shows them asks again).
+    void openClueChanged();
     // Team index 0..9.
     void scoreChanged(int team);
     void teamsChanged();
@@ -116,11 +147,13 @@ private:
     void specialPress(int tile);
     void openTile(int tile);
     void closeScreen();
+    void showFinalClue();
     void columnCheck(int column);
     QString categoryTitle(int column) const;
     void setTile(int tile, const QString &caption);
     void setHeader(int column, QString caption, QString tag);
-    void setStepCode(const QString &code);
+    void setStepCode(ClueStep step, int index = -1);
+    void setOpenTile(std::optional<int> tile);
     void setTilesDone(int tilesDone);
 
     // Until the first round is set up (while the start sound plays), only

@@ -12,8 +12,6 @@
 
 namespace {
 
-// The answer screen ignores presses this soon after the last one.
-constexpr qint64 kLockSeconds = 3;
 constexpr int kParadeHoldMs = 2500;
 // The length of the think music, clip 105.
 constexpr int kThinkMusicMs = 30000;
@@ -34,10 +32,42 @@ void BoardGame::setHeader(int column, QString caption, QString tag)
     emit headerChanged(column);
 }
 
-void BoardGame::setStepCode(const QString &code)
+void BoardGame::setStepCode(ClueStep step, int index)
 {
-    state_.stepCode = code;
+    state_.stepCode = MakeStepCode(step, index);
     emit stepCodeChanged();
+    emit openClueChanged();
+}
+
+void BoardGame::setOpenTile(std::optional<int> tile)
+{
+    state_.openTile = tile;
+    emit openClueChanged();
+}
+
+OpenClue BoardGame::openClue() const
+{
+    OpenClue c;
+    if (!state_.openTile || view_.isUnloaded())
+        return c;
+    const QString &file = settings_.QuestionFile;
+    const int round = settings_.Round;
+    c.open = true;
+    c.tile = *state_.openTile;
+    c.final = c.tile < 0;
+    c.dailyDouble = !c.final && (c.tile == settings_.DailyDouble1 || c.tile == settings_.DailyDouble2);
+    c.category = c.final ? GameReads::FinalTitle(file) : categoryTitle(Tiles::column(c.tile));
+    c.value = c.final ? 0 : Tiles::value(c.tile, round);
+    c.clue = GameReads::Clue(file, round, c.tile);
+    c.response = GameReads::Response(file, round, c.tile);
+    c.picture = GameReads::CluePicture(file, round, c.tile);
+    c.step = ParseStepCode(state_.stepCode).step;
+    const qint64 now = Clock::instance().now();
+    if (basDetectDevEnv::IsRunningCompiled())
+        c.lockSecondsLeft = int(qBound<qint64>(0, kAnswerLockSeconds - (now - state_.LastClickTime), kAnswerLockSeconds));
+    if (c.step == ClueStep::Wait)
+        c.thinkSecondsLeft = int(qMax<qint64>(0, state_.thinkEnds - now));
+    return c;
 }
 
 void BoardGame::setTilesDone(int tilesDone)
@@ -109,20 +139,22 @@ void BoardGame::openTile(int tile)
     state_.CurrentValue = qint16(Tiles::value(tile, settings_.Round));
     if (tile == settings_.DailyDouble1 || tile == settings_.DailyDouble2) {
         libraries_.PlayGameSound(101, false);
-        setStepCode(QStringLiteral("NO"));
+        setStepCode(ClueStep::Wait);
+        setOpenTile(tile);
         view_.setScreenCaption(QString());
         view_.setOverlayCaptions(categoryTitle(column), state_.tileCaption[size_t(tile)]);
         view_.ZoomTV({ZoomSource::Tile, tile}, settings_.PicIdDailyDouble);
-        setStepCode(MakeStepCode("SQ", tile));
+        setStepCode(ClueStep::DailyDouble, tile);
         state_.CurrentValue = 100;
     } else {
-        setStepCode(QStringLiteral("NO"));
+        setStepCode(ClueStep::Wait);
+        setOpenTile(tile);
         view_.screenTakesTile(tile);
         view_.ZoomTV({ZoomSource::Tile, tile}, settings_.PicIdScreen);
         view_.setOverlayCaptions(categoryTitle(column), state_.tileCaption[size_t(tile)]);
         ShowAnswer(tile);
         view_.showOverlay(column);
-        setStepCode(MakeStepCode("SA", tile));
+        setStepCode(ClueStep::Clue, tile);
     }
     // Out of play now, though counted only when the screen closes.
     setTile(tile, QString());
@@ -134,48 +166,64 @@ void BoardGame::AnswerScreenPress()
     if (view_.isUnloaded() || !started_)
         return;
     const qint64 now = Clock::instance().now();
-    if (basDetectDevEnv::IsRunningCompiled() && now - state_.LastClickTime < kLockSeconds)
+    if (basDetectDevEnv::IsRunningCompiled() && now - state_.LastClickTime < kAnswerLockSeconds)
         return;
     state_.LastClickTime = now;
     const StepCode step = ParseStepCode(state_.stepCode);
-    if (step.code == QStringLiteral("NO"))
-        return;
-    if (step.code == QStringLiteral("FC")) {
-        setStepCode(QStringLiteral("NO"));
+    switch (step.step) {
+    case ClueStep::Wait:
+        break;
+    case ClueStep::FinalCategory:
+        setStepCode(ClueStep::Wait);
         state_.CurrentValue = 100;
         view_.RotateTV(settings_.PicIdFinal, settings_.PicIdScreen);
         libraries_.PlayGameSound(104, false);
         view_.showOnScreen(GameReads::FinalTitle(settings_.QuestionFile));
-        setStepCode(MakeStepCode("FQ", -1));
-    } else if (step.code == QStringLiteral("FQ")) {
-        setStepCode(QStringLiteral("NO"));
-        view_.setScreenCaption(QString());
-        view_.RotateTV(settings_.PicIdScreen, settings_.PicIdScreen);
-        ShowAnswer(-1);
-        // The think music is the think time; presses meanwhile find "NO".
-        if (libraries_.soundsHeard())
-            emit thinkTimeStarted(kThinkMusicMs);
-        libraries_.PlayGameSound(105, true);
-        if (!view_.isUnloaded())
-            setStepCode(MakeStepCode("SA", -1));
-    } else if (step.code == QStringLiteral("SQ")) {
+        setStepCode(ClueStep::FinalClue, -1);
+        break;
+    case ClueStep::FinalClue:
+        showFinalClue();
+        break;
+    case ClueStep::DailyDouble: {
         const int tile = qBound(0, int(step.index), 29);
         view_.RotateTV(settings_.PicIdDailyDouble, settings_.PicIdScreen);
         view_.setCategoryCaption(categoryTitle(Tiles::column(tile)));
         ShowAnswer(tile);
         view_.showOverlay(Tiles::column(tile));
-        setStepCode(MakeStepCode("SA", tile));
-    } else if (step.code == QStringLiteral("SA")) {
-        ShowQuestion(step.index);
-        setStepCode(QString());
-    } else {
-        closeScreen();
+        setStepCode(ClueStep::Clue, tile);
+        break;
     }
+    case ClueStep::Clue:
+        ShowQuestion(step.index);
+        setStepCode(ClueStep::Response);
+        break;
+    case ClueStep::Response:
+        closeScreen();
+        break;
+    }
+}
+
+void BoardGame::showFinalClue()
+{
+    setStepCode(ClueStep::Wait);
+    view_.setScreenCaption(QString());
+    view_.RotateTV(settings_.PicIdScreen, settings_.PicIdScreen);
+    ShowAnswer(-1);
+    // The think music is the think time; presses meanwhile find "NO".
+    if (libraries_.soundsHeard()) {
+        state_.thinkEnds = Clock::instance().now() + (kThinkMusicMs + 999) / 1000;
+        emit thinkTimeStarted(kThinkMusicMs);
+    }
+    libraries_.PlayGameSound(105, true);
+    state_.thinkEnds = 0;
+    if (!view_.isUnloaded())
+        setStepCode(ClueStep::Clue, -1);
 }
 
 void BoardGame::closeScreen()
 {
     view_.hideScreen();
+    setOpenTile(std::nullopt);
     setTilesDone(settings_.TilesDone + 1);
     if (settings_.TilesDone != 30)
         return;
@@ -222,7 +270,7 @@ void BoardGame::HeaderPress()
         if (state_.headerCaption[size_t(c)].isEmpty())
             continue;
         // The screen stays locked while a title shows.
-        setStepCode(QStringLiteral("NO"));
+        setStepCode(ClueStep::Wait);
         view_.ZoomTV({ZoomSource::Header, c}, settings_.PicIdScreen);
         Clock::instance().pause(kParadeHoldMs);
         view_.hideScreen();

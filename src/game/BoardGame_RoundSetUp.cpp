@@ -100,6 +100,8 @@ void BoardGame::SetUpRound()
 void BoardGame::setUpOrdinaryRound()
 {
     view_.hideGrid();
+    if (state_.openTile)
+        setOpenTile(std::nullopt);
     int done = 0;
     for (int c = 0; c < 6; ++c) {
         const QString title = GameReads::ColumnTitle(settings_.QuestionFile, settings_.Round, c);
@@ -139,8 +141,9 @@ void BoardGame::setUpFinalRound()
     // The final counts as the round's one remaining tile.
     setTilesDone(29);
     emit roundChanged();
-    setStepCode(QStringLiteral("NO"));
+    setStepCode(ClueStep::Wait);
+    setOpenTile(-1);
     view_.setScreenCaption(QString());
     view_.ZoomTV({ZoomSource::Tile, 14}, settings_.PicIdFinal);
-    setStepCode(MakeStepCode("FC", -1));
+    setStepCode(ClueStep::FinalCategory, -1);
 }

@@ -35,15 +35,37 @@ std::pair<qint16, qint16> DrawDailyDoubles(const std::array<QString, 30> &tileCa
     return {first, second};
 }
 
+namespace {
+
+constexpr std::pair<ClueStep, const char *> kStepCodes[] = {
+    {ClueStep::Wait, "NO"},        {ClueStep::FinalCategory, "FC"}, {ClueStep::FinalClue, "FQ"},
+    {ClueStep::DailyDouble, "SQ"}, {ClueStep::Clue, "SA"},
+};
+
+} // namespace
+
 StepCode ParseStepCode(const QString &tag)
 {
     const long long n = RoundHalfEven(LeadingNumber(tag.mid(3)));
-    return {tag.left(2), qint16(qBound(-32768LL, n, 32767LL))};
+    StepCode parsed{ClueStep::Response, qint16(qBound(-32768LL, n, 32767LL))};
+    const QStringView code = QStringView(tag).left(2);
+    for (const auto &[step, letters] : kStepCodes) {
+        if (code == QLatin1String(letters))
+            parsed.step = step;
+    }
+    return parsed;
 }
 
-QString MakeStepCode(const char *code, int index)
+QString MakeStepCode(ClueStep step, int index)
 {
-    return QLatin1String(code) + QLatin1Char('|') + QString::number(index);
+    if (step == ClueStep::Response)
+        return QString();
+    for (const auto &[known, letters] : kStepCodes) {
+        if (known == step)
+            return step == ClueStep::Wait ? QLatin1String(letters)
+                                          : QLatin1String(letters) + QLatin1Char('|') + QString::number(index);
+    }
+    return QString();
 }
 
 KeyAction DecideKey(QChar letter, int digit, int modifiers, int currentValue, int teams)

@@ -15,14 +15,29 @@
 // columns are empty (tilesDone 15 or more).
 std::pair<qint16, qint16> DrawDailyDoubles(const std::array<QString, 30> &tileCaptions, int tilesDone, Clock &clock);
 
-// A step code: its first two characters, and the number written from its
-// fourth on (0 when there is none).
+// The answer screen stays shut to presses this many whole seconds after
+// the last accepted one.
+constexpr qint64 kAnswerLockSeconds = 3;
+
+// The steps of the answer screen, by what the next press on it does. Each
+// is written as a step code in the screen's tag: two letters, "|" and the
+// tile (or -1 for the final); "NO" alone while a press does nothing; empty
+// once the response shows.
+enum class ClueStep {
+    Wait,          // "NO": a press does nothing
+    FinalCategory, // "FC": the final's picture shows; next, its category
+    FinalClue,     // "FQ": the final's category shows; next, its clue
+    DailyDouble,   // "SQ": a daily double's picture shows; next, its clue
+    Clue,          // "SA": a clue shows; next, its response
+    Response,      // "" (or any other code): the response shows; next, close
+};
+
 struct StepCode {
-    QString code;
-    qint16 index = 0;
+    ClueStep step = ClueStep::Response;
+    qint16 index = 0; // the number written from the fourth character on
 };
 StepCode ParseStepCode(const QString &tag);
-QString MakeStepCode(const char *code, int index);
+QString MakeStepCode(ClueStep step, int index = -1);
 
 // What a key on the board does.
 struct KeyAction {

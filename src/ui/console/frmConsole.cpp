@@ -3,9 +3,7 @@
 #include "game/BoardGame.h"
 #include "game/GameRules.h"
 #include "game/GameState.h"
-#include "platform/Clock.h"
 #include "questions/GameReads.h"
-#include "shell/basDetectDevEnv.h"
 #include "ui/board/frmMain.h"
 
 #include <QGridLayout>
@@ -20,8 +18,6 @@
 
 namespace {
 
-// The answer screen stays shut to presses this long after the last one.
-constexpr qint64 kLockSeconds = 3;
 constexpr int kTickMs = 250;
 
 // Deep blue like the board, gold for money, the daily doubles in red: for
@@ -55,22 +51,30 @@ QString indexed(const char *array, int i)
     return QStringLiteral("%1(%2)").arg(QLatin1String(array)).arg(i);
 }
 
-// What the next press on the answer screen does, by step code.
-QString nextStep(const QString &code, bool shown)
+// What the next press on the answer screen does, by its step.
+QString nextStep(const OpenClue &clue)
 {
-    if (!shown)
+    if (!clue.open)
         return QStringLiteral("No clue open");
-    if (code == QStringLiteral("NO"))
-        return QStringLiteral("Wait");
-    if (code == QStringLiteral("FC"))
-        return QStringLiteral("Show the final category");
-    if (code == QStringLiteral("FQ"))
-        return QStringLiteral("Show the final clue");
-    if (code == QStringLiteral("SQ"))
-        return QStringLiteral("Show the clue");
-    if (code == QStringLiteral("SA"))
-        return QStringLiteral("Reveal the response");
+    switch (clue.step) {
+    case ClueStep::Wait: return QStringLiteral("Wait");
+    case ClueStep::FinalCategory: return QStringLiteral("Show the final category");
+    case ClueStep::FinalClue: return QStringLiteral("Show the final clue");
+    case ClueStep::DailyDouble: return QStringLiteral("Show the clue");
+    case ClueStep::Clue: return QStringLiteral("Reveal the response");
+    case ClueStep::Response: break;
+    }
     return QStringLiteral("Close the clue");
+}
+
+// The seconds a host waits for: the think music, else the lock.
+QString secondsLeft(const OpenClue &clue)
+{
+    if (clue.thinkSecondsLeft > 0)
+        return QStringLiteral("Think music: %1 s left").arg(clue.thinkSecondsLeft);
+    if (clue.lockSecondsLeft > 0)
+        return QStringLiteral("Locked: %1 s").arg(clue.lockSecondsLeft);
+    return QString();
 }
 
 } // namespace
@@ -227,21 +231,16 @@ void frmConsole::attach(frmMain *board)
     if (board_)
         disconnect(&board_->game(), nullptr, this, nullptr);
     board_ = board;
-    openIndex_ = 0;
     valueShown_ = -1;
-    thinkEnds_ = 0;
     if (board) {
         BoardGame &game = board->game();
-        for (auto signal : {&BoardGame::stepCodeChanged, &BoardGame::teamsChanged, &BoardGame::roundChanged,
+        for (auto signal : {&BoardGame::openClueChanged, &BoardGame::teamsChanged, &BoardGame::roundChanged,
                             &BoardGame::tilesDoneChanged})
             connect(&game, signal, this, &frmConsole::refresh);
         for (auto signal : {&BoardGame::tileChanged, &BoardGame::headerChanged, &BoardGame::scoreChanged,
                             &BoardGame::teamNameChanged})
             connect(&game, signal, this, &frmConsole::refresh);
-        connect(&game, &BoardGame::thinkTimeStarted, this, [this](int ms) {
-            thinkEnds_ = Clock::instance().now() + (ms + 999) / 1000;
-            refresh();
-        });
+        connect(&game, &BoardGame::thinkTimeStarted, this, &frmConsole::refresh);
         connect(&game, &BoardGame::gameEnded, this, [this] { attach(nullptr); });
         connect(board, &frmMain::unloaded, this, [this] { attach(nullptr); });
         tmrRefresh->start();
@@ -316,7 +315,7 @@ void frmConsole::refresh()
         lblClue->clear();
         lblResponse->clear();
         lblWait->clear();
-        cmdNext->setText(nextStep(QString(), false));
+        cmdNext->setText(nextStep(OpenClue()));
         cmdNext->setEnabled(false);
     } else {
         const int round = game->settings().Round;
@@ -337,7 +336,8 @@ void frmConsole::refreshGrid(const BoardGame &game)
         // "&" would mark a shortcut: "Oceans & Seas" shows as written.
         QString title = shown.isEmpty() ? s.headerTag[size_t(c)] : shown;
         cmdHeader[size_t(c)]->setText(title.replace(QLatin1Char('&'), QStringLiteral("&&")));
-        cmdHeader[size_t(c)]->setEnabled(!shown.isEmpty());
+        // The board's headers lie under an open clue.
+        cmdHeader[size_t(c)]->setEnabled(!shown.isEmpty() && !s.openTile);
     }
     const bool ordinary = g.Round == 1 || g.Round == 2;
     for (int i = 0; i < 30; ++i) {
@@ -358,47 +358,26 @@ void frmConsole::refreshGrid(const BoardGame &game)
 
 void frmConsole::refreshClue(const BoardGame &game)
 {
-    const BoardState &s = game.state();
-    const GameState &g = game.settings();
-    const StepCode step = ParseStepCode(s.stepCode);
-    if (!s.stepCode.isEmpty() && step.code != QStringLiteral("NO"))
-        openIndex_ = step.index;
-    const bool shown = board_->screenVisible();
-    const int i = openIndex_;
-    if (shown) {
-        const QString category = i < 0 ? GameReads::FinalTitle(g.QuestionFile)
-                                       : s.headerCaption[size_t(Tiles::column(i))].isEmpty()
-                                             ? s.headerTag[size_t(Tiles::column(i))]
-                                             : s.headerCaption[size_t(Tiles::column(i))];
-        const QString value = i < 0 ? QStringLiteral("Final") : Tiles::caption(i, g.Round);
-        const bool daily = i >= 0 && (i == g.DailyDouble1 || i == g.DailyDouble2);
-        lblCategory->setText(category + QStringLiteral("  \u2014  ") + value +
-                             (daily ? QStringLiteral("  (daily double)") : QString()));
-        lblClue->setText(GameReads::Clue(g.QuestionFile, g.Round, i));
-        lblResponse->setText(QStringLiteral("Response: ") + GameReads::Response(g.QuestionFile, g.Round, i));
+    const OpenClue clue = game.openClue();
+    if (clue.open) {
+        const QString value = clue.final ? QStringLiteral("Final") : QStringLiteral("$") + QString::number(clue.value);
+        lblCategory->setText(clue.category + QStringLiteral("  \u2014  ") + value +
+                             (clue.dailyDouble ? QStringLiteral("  (daily double)") : QString()));
+        lblClue->setText(clue.clue);
+        lblResponse->setText(QStringLiteral("Response: ") + clue.response);
     } else {
         lblCategory->setText(QStringLiteral("Choose a value on the board below."));
         lblClue->clear();
         lblResponse->clear();
     }
-    lblWait->setText(shown ? secondsLeft(game) : QString());
-    cmdNext->setText(nextStep(step.code, shown));
-    cmdNext->setEnabled(shown && step.code != QStringLiteral("NO"));
-    if (s.CurrentValue != valueShown_) {
-        valueShown_ = s.CurrentValue;
-        spnAmount->setValue(s.CurrentValue);
+    lblWait->setText(clue.open ? secondsLeft(clue) : QString());
+    cmdNext->setText(nextStep(clue));
+    cmdNext->setEnabled(clue.open && clue.step != ClueStep::Wait);
+    const qint16 current = game.state().CurrentValue;
+    if (current != valueShown_) {
+        valueShown_ = current;
+        spnAmount->setValue(current);
     }
-}
-
-QString frmConsole::secondsLeft(const BoardGame &game) const
-{
-    const qint64 now = Clock::instance().now();
-    if (game.state().stepCode == QStringLiteral("NO") && thinkEnds_ > now)
-        return QStringLiteral("Think music: %1 s left").arg(thinkEnds_ - now);
-    const qint64 lock = kLockSeconds - (now - game.state().LastClickTime);
-    if (basDetectDevEnv::IsRunningCompiled() && lock > 0)
-        return QStringLiteral("Locked: %1 s").arg(lock);
-    return QString();
 }
 
 void frmConsole::refreshTeams(const BoardGame *game)

@@ -55,15 +55,10 @@ private:
     void refreshGrid(const BoardGame &game);
     void refreshClue(const BoardGame &game);
     void refreshTeams(const BoardGame *game);
-    QString secondsLeft(const BoardGame &game) const;
 
     GameState &state_;
     QPointer<frmMain> board_;
-    // The tile or final (-1) last opened: the step code forgets it once the
-    // response shows.
-    int openIndex_ = 0;
     qint16 valueShown_ = -1;
-    qint64 thinkEnds_ = 0;
     int fontPoints_ = 0;
 
     QLabel *lblRound = nullptr;
