@@ -16,13 +16,18 @@
 #include "shell/Libraries.h"
 #include "shell/basDetectDevEnv.h"
 #include "ui/board/frmMain.h"
+#include "ui/controls/CaptionControl.h"
 #include "ui/controls/CommandButton.h"
 #include "ui/controls/ShadowLabel.h"
+#include "ui/console/frmConsole.h"
 #include "ui/select/frmSelect.h"
 
 #include <QComboBox>
 #include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
+#include <QPushButton>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -50,7 +55,7 @@ class TestJournal : public QObject {
     QPointer<frmSelect> home_;
 
     QString setPath() const { return program_->file(QStringLiteral("game.QZ2")); }
-    frmMain *board() const { return home_->board(); }
+    frmMain *board() const { return home_ ? home_->board() : nullptr; }
     GameJournal journal() const { return GameJournal(); }
 
     frmSelect *openHome(GameState &state)
@@ -212,26 +217,120 @@ private slots:
         QCOMPARE(onDisk()->scores[0], 0);
     }
 
-    void aFinalResumesFromItsPicture()
+    // A resume shows every restored value on every screen that watches:
+    // the board and the host's console.
+    void resumeShowsEverythingOnEveryScreen_data()
     {
-        startGame(1);
-        sendKey(board(), Qt::Key_N, kAllThree);
-        sendKey(board(), Qt::Key_N, kAllThree);
-        QCOMPARE(state_.Round, qint16(3));
-        board()->run([](BoardGame &g) { g.addToScore(0, 500); });
-        QCOMPARE(onDisk()->round, qint16(3));
+        QTest::addColumn<QString>("when");
+        QTest::newRow("round 1") << QStringLiteral("round 1");
+        QTest::newRow("an open daily double") << QStringLiteral("daily double");
+        QTest::newRow("the final") << QStringLiteral("final");
+    }
+    void resumeShowsEverythingOnEveryScreen()
+    {
+        QFETCH(QString, when);
+        startGame(2);
+        board()->run([](BoardGame &g) {
+            g.setTeamName(0, QStringLiteral("Owls"));
+            g.setTeamName(1, QStringLiteral("Foxes"));
+            g.addToScore(1, 400);
+        });
+        if (when == QStringLiteral("final")) {
+            sendKey(board(), Qt::Key_N, kAllThree);
+            sendKey(board(), Qt::Key_N, kAllThree);
+        } else {
+            press(board()->game(), 0);
+        }
+        if (when == QStringLiteral("daily double"))
+            board()->run([this](BoardGame &g) { g.TilePress(state_.DailyDouble1, true, false); });
+        const GameState before = state_;
+        const BoardState played = board()->game().state();
+        QCoreApplication::processEvents();
         crash();
+
         GameState next;
         boxes_->answers = {MsgBoxResult::Yes};
-        QVERIFY(openHome(next)->offerResume());
-        QCOMPARE(next.Round, qint16(3));
-        QCOMPARE(board()->game().state().stepCode, QStringLiteral("FC|-1"));
-        QCOMPARE(next.Scores[0], 500);
+        openHome(next);
+        QTest::keyClick(home_, Qt::Key_F2); // the console watches from the start
+        QVERIFY(home_->offerResume());
+        frmConsole *console = home_->console();
+        QVERIFY(console);
+        QCOMPARE(next.Round, before.Round);
+        for (int team = 0; team < 2; ++team) {
+            const QString name = before.TeamNames[size_t(team)], score = team ? QStringLiteral("$ 400") : QStringLiteral("$ 0");
+            QCOMPARE(board()->findChild<ShadowLabel *>(QStringLiteral("lblTeam(%1)").arg(team))->caption(), name + QLatin1Char(':'));
+            QCOMPARE(board()->findChild<ShadowLabel *>(QStringLiteral("lblScore(%1)").arg(team))->caption(), score);
+            QCOMPARE(console->findChild<QLineEdit *>(QStringLiteral("txtName(%1)").arg(team))->text(), name);
+            QCOMPARE(console->findChild<QLabel *>(QStringLiteral("lblScore(%1)").arg(team))->text(), score);
+        }
+        if (when == QStringLiteral("final")) {
+            QCOMPARE(board()->game().state().stepCode, QStringLiteral("FC|-1"));
+            QVERIFY(console->findChild<QLabel *>(QStringLiteral("lblCategory"))->text().startsWith(QStringLiteral("Oceans")));
+            return;
+        }
+        // The board's titles and tiles, and the console's miniature with its
+        // daily doubles starred, are the ones played; an open clue counts.
+        for (int c = 0; c < 6; ++c)
+            QCOMPARE(board()->findChild<CaptionControl *>(QStringLiteral("vseCategory(%1)").arg(c))->caption(),
+                     played.headerCaption[size_t(c)]);
+        QCOMPARE(next.DailyDouble1, before.DailyDouble1);
+        QCOMPARE(next.DailyDouble2, before.DailyDouble2);
+        for (int i = 0; i < 30; ++i) {
+            QCOMPARE(board()->findChild<CaptionControl *>(QStringLiteral("vseQuestion(%1)").arg(i))->caption(),
+                     played.tileCaption[size_t(i)]);
+            const bool starred = console->findChild<QPushButton *>(QStringLiteral("cmdTile(%1)").arg(i))->text().startsWith(QStringLiteral("\u2605"));
+            QCOMPARE(starred, i == next.DailyDouble1 || i == next.DailyDouble2);
+        }
+    }
+
+    // The journal goes with every way a game ends, and a game in which
+    // nothing happened is not worth a question.
+    void everyEndRemovesTheJournal_data()
+    {
+        QTest::addColumn<QString>("end");
+        QTest::newRow("end key") << QStringLiteral("key");
+        QTest::newRow("window's close button") << QStringLiteral("close");
+        QTest::newRow("home screen closed") << QStringLiteral("home");
+    }
+    void everyEndRemovesTheJournal()
+    {
+        QFETCH(QString, end);
+        startGame(2);
+        press(board()->game(), 7);
+        QVERIFY(onDisk());
+        if (end == QStringLiteral("key"))
+            sendKey(board(), Qt::Key_Q, kAllThree);
+        else if (end == QStringLiteral("close"))
+            QVERIFY(board()->close() || true);
+        else
+            home_->close();
+        QCoreApplication::processEvents();
+        QVERIFY(!journal().exists());
+    }
+
+    void aGameWithNothingPlayedIsNotOffered()
+    {
+        startGame(2);
+        board()->run([](BoardGame &g) { g.TilePress(0, true, true); g.TilePress(0, true, true); }); // out and back
+        board()->run([](BoardGame &g) { g.addToScore(0, 100); g.undoScore(); }); // the undo leaves history as before
+        QVERIFY(onDisk());
+        crash();
+        GameState next;
+        QVERIFY(!openHome(next)->offerResume());
+        QVERIFY(boxes_->shown.isEmpty());
+        QVERIFY(!journal().exists());
+        // One tile taken out is a game the host played.
+        JournalRecord r;
+        QVERIFY(!JournalEarned(r));
+        r.headerCaption[2] = QStringLiteral("Seas");
+        r.tileCaption[8] = QString();
+        QVERIFY(JournalEarned(r));
     }
 
     void noForgetsTheGame()
     {
         startGame(2);
+        board()->run([](BoardGame &g) { g.addToScore(0, 100); });
         QVERIFY(onDisk());
         crash();
         GameState next;
@@ -253,6 +352,7 @@ private slots:
     {
         QFETCH(bool, remove);
         startGame(2);
+        press(board()->game(), 7);
         QVERIFY(onDisk());
         crash();
         if (remove)
@@ -302,12 +402,18 @@ private:
         good.tileCaption[0] = QStringLiteral("$100");
         const QByteArray valid = WriteJournal(good);
         QVERIFY(ReadJournal(valid));
+        // Changed and sealed anew: what the checksum cannot catch.
         auto changed = [&](const char *from, const char *to) {
             QByteArray b = valid;
             if (!b.contains(from))
                 qFatal("no %s in a journal", from);
-            return b.replace(from, to);
+            return SealJournal(b.replace(from, to));
         };
+        QByteArray damaged = valid;
+        damaged.replace("\"$100\"", "\"$200\"");
+        QTest::newRow("a changed value under the old checksum") << damaged;
+        QTest::newRow("a tile showing another row's value") << changed("\"$100\"", "\"$200\"");
+        QTest::newRow("scores that are not their history's sum") << changed("\"scores\": [\n        0", "\"scores\": [\n        100");
         QTest::newRow("empty") << QByteArray();
         QTest::newRow("binary") << QByteArray("\x00\xff\xfe{\x01", 5);
         QTest::newRow("cut short") << valid.left(valid.size() / 2);

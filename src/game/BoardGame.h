@@ -105,6 +105,9 @@ public:
     bool KeyDown(QChar letter, int digit, int modifiers);
     // BackSpace on the board: takes back the last score change.
     bool KeyBackSpace();
+    // Ends the game now, without standings: the host's end key, the
+    // window's close button.
+    void endGame();
 
     // The host's corrections and typed amounts: adds amount (negative to
     // take) to a team's score, and takes back the last change of any score,
@@ -142,7 +145,6 @@ private:
     void setUpFinalRound();
     void nextRound();
     void EndOfGame();
-    void endGame();
 
     void specialPress(int tile);
     void openTile(int tile);

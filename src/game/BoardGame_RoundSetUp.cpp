@@ -39,13 +39,17 @@ void BoardGame::start()
 void BoardGame::resume(const JournalRecord &r)
 {
     started_ = true;
+    // Every value comes back announced, as if it had been played: every
+    // watcher (the board, the console, the journal) shows it.
     state_.Teams = qint16(qBound(0, int(r.teams), 10));
+    emit teamsChanged();
     state_.scoreHistory = r.history;
     settings_.Scores = r.scores;
     settings_.TeamNames = r.names;
-    emit teamsChanged();
-    for (int team = 0; team < state_.Teams; ++team)
+    for (int team = 0; team < 10; ++team) {
+        emit teamNameChanged(team);
         emit scoreChanged(team);
+    }
     settings_.Round = r.round;
     if (r.round >= 3) {
         SetUpRound();

@@ -1,6 +1,7 @@
 #include "GameJournal.h"
 
 #include "BoardGame.h"
+#include "GameRules.h"
 #include "GameState.h"
 #include "platform/WriteFileReplacing.h"
 #include "questions/GameReads.h"
@@ -16,9 +17,12 @@
 
 #include <cmath>
 
+#include <zlib.h>
+
 namespace {
 
 const QString kFormat = QStringLiteral("quizzarr-journal");
+const QString kChecksum = QStringLiteral("crc32");
 constexpr int kVersion = 1;
 // A journal is a few kilobytes; anything much larger is not ours.
 constexpr qint64 kLargest = 1 << 20;
@@ -60,12 +64,39 @@ std::optional<qint64> number(const QJsonValue &v, qint64 low, qint64 high)
     return qint64(d);
 }
 
-bool isTileCaption(const QString &caption)
+// CRC-32 of the object's content without its checksum, in hex: the same
+// for the same values however the file's blanks were laid out.
+QString checksum(QJsonObject o)
 {
-    if (caption.isEmpty())
-        return true;
-    bool ok = false;
-    return caption.startsWith(QLatin1Char('$')) && caption.mid(1).toInt(&ok) > 0 && ok;
+    o.remove(kChecksum);
+    const QByteArray content = QJsonDocument(o).toJson(QJsonDocument::Compact);
+    const uLong crc = crc32(crc32(0L, Z_NULL, 0), reinterpret_cast<const Bytef *>(content.constData()), uInt(content.size()));
+    return QString::number(quint32(crc), 16).rightJustified(8, QLatin1Char('0'));
+}
+
+// Every tile is out of play or shows its own row's value in the round; the
+// final's board is empty.
+bool tilesAgree(const JournalRecord &r)
+{
+    for (int i = 0; i < Tiles::Count; ++i) {
+        const QString &caption = r.tileCaption[size_t(i)];
+        if (!caption.isEmpty() && (r.round > 2 || caption != Tiles::caption(i, r.round)))
+            return false;
+    }
+    return true;
+}
+
+// Scores start at 0 and change only through their history.
+bool scoresAgree(const JournalRecord &r)
+{
+    std::array<quint32, 10> sums{};
+    for (const auto &[team, amount] : r.history)
+        sums[size_t(team)] += quint32(amount);
+    for (size_t i = 0; i < sums.size(); ++i) {
+        if (qint32(sums[i]) != r.scores[i])
+            return false;
+    }
+    return true;
 }
 
 bool readNumbers(const QJsonObject &o, JournalRecord &r)
@@ -126,6 +157,13 @@ QByteArray WriteJournal(const JournalRecord &r)
         {QStringLiteral("names"), texts(r.names)},
         {QStringLiteral("history"), history},
     };
+    return SealJournal(QJsonDocument(o).toJson(QJsonDocument::Compact));
+}
+
+QByteArray SealJournal(const QByteArray &json)
+{
+    QJsonObject o = QJsonDocument::fromJson(json).object();
+    o.insert(kChecksum, checksum(o));
     return QJsonDocument(o).toJson(QJsonDocument::Indented);
 }
 
@@ -138,7 +176,8 @@ std::optional<JournalRecord> ReadJournal(const QByteArray &bytes)
     if (error.error != QJsonParseError::NoError || !doc.isObject())
         return std::nullopt;
     const QJsonObject o = doc.object();
-    if (o[QStringLiteral("format")].toString() != kFormat || o[QStringLiteral("version")].toInt() != kVersion)
+    if (o[QStringLiteral("format")].toString() != kFormat || o[QStringLiteral("version")].toInt() != kVersion ||
+        o[kChecksum].toString() != checksum(o))
         return std::nullopt;
     JournalRecord r;
     for (auto [key, field] : {std::pair{"questionFile", &r.questionFile}, std::pair{"fingerprint", &r.fingerprint},
@@ -152,11 +191,23 @@ std::optional<JournalRecord> ReadJournal(const QByteArray &bytes)
         !readTexts(o[QStringLiteral("headers")], r.headerCaption) ||
         !readTexts(o[QStringLiteral("hiddenHeaders")], r.headerTag) || !readTexts(o[QStringLiteral("names")], r.names))
         return std::nullopt;
-    for (const QString &caption : r.tileCaption) {
-        if (!isTileCaption(caption))
-            return std::nullopt;
-    }
+    if (!tilesAgree(r) || !scoresAgree(r))
+        return std::nullopt;
     return r;
+}
+
+bool JournalEarned(const JournalRecord &r)
+{
+    if (r.round > 1 || !r.history.empty())
+        return true;
+    // A tile out of play under a title (shown, or kept by an exhausted
+    // column) was played or taken out; an empty column's tiles never were.
+    for (int i = 0; i < Tiles::Count; ++i) {
+        const size_t column = size_t(Tiles::column(i));
+        if (r.tileCaption[size_t(i)].isEmpty() && !(r.headerCaption[column].isEmpty() && r.headerTag[column].isEmpty()))
+            return true;
+    }
+    return false;
 }
 
 QString SetFingerprint(const QString &file)
@@ -245,6 +296,40 @@ std::optional<JournalRecord> GameJournal::read() const
     if (!f.open(QIODevice::ReadOnly) || f.size() > kLargest)
         return std::nullopt;
     return ReadJournal(f.read(kLargest + 1));
+}
+
+ResumeOffer GameJournal::offer()
+{
+    ResumeOffer offer;
+    if (!exists())
+        return offer;
+    const std::optional<JournalRecord> record = read();
+    if (!record) {
+        // Damaged or not ours: out of the way, and the game starts as ever.
+        setAside();
+        return offer;
+    }
+    if (!JournalEarned(*record)) {
+        remove();
+        return offer;
+    }
+    const QString fingerprint = SetFingerprint(record->questionFile);
+    if (fingerprint.isEmpty() || fingerprint != record->fingerprint) {
+        remove();
+        offer.kind = ResumeOffer::Gone;
+        offer.text = QStringLiteral("The question set ") + record->questionFile +
+                     QStringLiteral(" has changed or is gone since the game was interrupted, so the game cannot be "
+                                    "resumed.");
+        return offer;
+    }
+    offer.kind = ResumeOffer::Resume;
+    offer.record = *record;
+    offer.text = QStringLiteral("Resume the interrupted game of ") + record->description + QStringLiteral("?\r\n\r\n") +
+                 (record->round >= 3 ? QStringLiteral("The final") : QStringLiteral("Round %1").arg(record->round));
+    for (int team = 0; team < record->teams; ++team)
+        offer.text += QStringLiteral("\r\n") + TeamName(team, record->names[size_t(team)]) + QStringLiteral(": $ ") +
+                      FormatScore(record->scores[size_t(team)]);
+    return offer;
 }
 
 void GameJournal::remove()

@@ -34,9 +34,27 @@ struct JournalRecord {
 };
 
 QByteArray WriteJournal(const JournalRecord &record);
-// The record in bytes written by WriteJournal; nothing for anything else
-// (damaged, foreign, from a newer game, or out of range).
+// The record in bytes written by WriteJournal; nothing for anything else:
+// damaged (its checksum differs), foreign, from a newer game, out of range,
+// or at odds with itself (scores that are not the sum of their history, a
+// tile whose caption is not its row's value).
 std::optional<JournalRecord> ReadJournal(const QByteArray &bytes);
+// A journal's JSON text with its checksum made anew.
+QByteArray SealJournal(const QByteArray &json);
+// Whether the host did anything in the game: played or took out a tile,
+// changed a score, or moved on a round. Only such a game is worth resuming.
+bool JournalEarned(const JournalRecord &record);
+
+// What a journal left behind offers the next start.
+struct ResumeOffer {
+    enum Kind {
+        Nothing, // no journal, a damaged one (set aside), or a game with nothing in it
+        Gone,    // its set changed or is gone: text tells the host, once
+        Resume,  // text asks the host whether to resume record
+    } kind = Nothing;
+    QString text;
+    JournalRecord record;
+};
 // A set file's fingerprint; empty when it cannot be read.
 QString SetFingerprint(const QString &file);
 // The game's state as a journal records it.
@@ -58,6 +76,10 @@ public:
     bool exists() const;
     // The journal left behind; nothing when there is none or it is damaged.
     std::optional<JournalRecord> read() const;
+    // What the journal left behind offers; a damaged one is set aside, and
+    // one that offers nothing (or only the message that its set is gone)
+    // is removed.
+    ResumeOffer offer();
     void remove();
     // Renames a damaged journal out of the way, keeping it for a look; the
     // new name back.

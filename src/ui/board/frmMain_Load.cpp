@@ -237,7 +237,8 @@ frmMain::Busy::~Busy()
 
 void frmMain::closeEvent(QCloseEvent *event)
 {
-    // Closed by the window system: the same end as the game's own.
+    // Closed by the window system: the same end as the host's end key.
     event->ignore();
-    Unload();
+    Busy busy(*this);
+    game_.endGame();
 }

@@ -274,35 +274,18 @@ void frmSelect::openBoard(const BoardOpener &start)
 
 bool frmSelect::offerResume()
 {
-    if (!journal_.exists())
+    const ResumeOffer offer = journal_.offer();
+    if (offer.kind == ResumeOffer::Gone)
+        MsgBox(offer.text, MsgBoxStyle::OKOnly | MsgBoxStyle::Exclamation, applicationTitle());
+    if (offer.kind != ResumeOffer::Resume)
         return false;
-    const std::optional<JournalRecord> record = journal_.read();
-    if (!record) {
-        // Damaged or not ours: out of the way, and the game starts as ever.
-        journal_.setAside();
-        return false;
-    }
-    const QString fingerprint = SetFingerprint(record->questionFile);
-    if (fingerprint.isEmpty() || fingerprint != record->fingerprint) {
-        MsgBox(QStringLiteral("The question set ") + record->questionFile +
-                   QStringLiteral(" has changed or is gone since the game was interrupted, so the game cannot be "
-                                  "resumed."),
-               MsgBoxStyle::OKOnly | MsgBoxStyle::Exclamation, applicationTitle());
+    if (MsgBox(offer.text, MsgBoxStyle::YesNo | MsgBoxStyle::Question, applicationTitle()) != MsgBoxResult::Yes) {
         journal_.remove();
         return false;
     }
-    QString text = QStringLiteral("Resume the interrupted game of ") + record->description + QStringLiteral("?\r\n\r\n") +
-                   (record->round >= 3 ? QStringLiteral("The final") : QStringLiteral("Round %1").arg(record->round));
-    for (int team = 0; team < record->teams; ++team)
-        text += QStringLiteral("\r\n") + TeamName(team, record->names[size_t(team)]) + QStringLiteral(": $ ") +
-                FormatScore(record->scores[size_t(team)]);
-    if (MsgBox(text, MsgBoxStyle::YesNo | MsgBoxStyle::Question, applicationTitle()) != MsgBoxResult::Yes) {
-        journal_.remove();
-        return false;
-    }
-    state_.QuestionFile = record->questionFile;
-    openBoard([this, &record](QScreen *host, const std::function<void(frmMain *)> &loaded) {
-        return frmMain::ResumeGame(state_, libraries_, *record, host, loaded);
+    state_.QuestionFile = offer.record.questionFile;
+    openBoard([this, &offer](QScreen *host, const std::function<void(frmMain *)> &loaded) {
+        return frmMain::ResumeGame(state_, libraries_, offer.record, host, loaded);
     });
     return true;
 }
@@ -420,7 +403,10 @@ void frmSelect::keyPressEvent(QKeyEvent *event)
 
 void frmSelect::closeEvent(QCloseEvent *event)
 {
-    // Closing the home screen ends the program.
+    // Closing the home screen ends the program, and a game that runs with
+    // it: ended, not interrupted, so nothing is offered to resume.
+    if (board_)
+        board_->close();
     libraries_.ShutdownLibraries();
     event->accept();
     QCoreApplication::quit();
