@@ -2,15 +2,26 @@
 // user's cache folder, where anything may become of it. Reading it must
 // never crash, leak or hang, a file it never saw must find nothing, a
 // folder of unknown stamp is never taken on trust, and whatever it held,
-// what a listing adds must read back from what it wrote.
+// what a listing adds must read back from what it wrote. The input is tried
+// as it is and with its own checksum after it, so that the reading behind
+// the checksum is reached.
 
 #include "FuzzFiles.h"
 
 #include "select/DescriptionCache.h"
 
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+#include <zlib.h>
+
+namespace {
+
+QByteArray sealed(QByteArray bytes)
 {
-    const QByteArray bytes(reinterpret_cast<const char *>(data), qsizetype(size));
+    const quint32 crc = quint32(crc32(crc32(0L, Z_NULL, 0), reinterpret_cast<const Bytef *>(bytes.constData()), uInt(bytes.size())));
+    return bytes.append(reinterpret_cast<const char *>(&crc), sizeof crc);
+}
+
+void check(const QByteArray &bytes)
+{
     const QString file = Fuzz::writeFile(QStringLiteral("cache"), bytes);
     // Listings an hour after every stamp below: all of them settled.
     const qint64 later = 2'000'000'000'000'000'000;
@@ -38,5 +49,14 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         Fuzz::diverged(QStringLiteral("the unchanged folder, relisted"), QStringLiteral("new.QZ2"),
                        relisted ? QString::number(relisted->size()) + QStringLiteral(" files")
                                 : QStringLiteral("nothing"));
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    const QByteArray bytes(reinterpret_cast<const char *>(data), qsizetype(size));
+    check(bytes);
+    check(sealed(bytes));
     return 0;
 }

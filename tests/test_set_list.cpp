@@ -133,6 +133,18 @@ private slots:
         longer.close();
         list();
         QCOMPARE(hits, 0);
+        // A changed letter of a description: no answer, not another one.
+        const QStringList listed = list();
+        QFile damaged(cacheFile);
+        QVERIFY(damaged.open(QIODevice::ReadWrite));
+        QByteArray bytes = damaged.readAll();
+        const qsizetype at = bytes.indexOf(QByteArray("S\0e\0t\0 \0""5\0", 10));
+        QVERIFY(at > 0);
+        bytes[at + 8] = '6';
+        QVERIFY(damaged.seek(0) && damaged.write(bytes) == bytes.size());
+        damaged.close();
+        QCOMPARE(list(), listed);
+        QCOMPARE(hits, 0);
 
         // Files changed just now are read afresh until they have settled.
         DescriptionCache now(cacheFile);

@@ -9,15 +9,18 @@
 #include <cstdio>
 #include <cstring>
 
+#include <zlib.h>
+
 // The file: a mark, then for each folder its path, its own stamp and its
 // files, each with name, stamp and description, then the widest name, then
-// the mark again. Texts are stored as their UTF-16 code units, so that
+// the mark again, then the CRC-32 of all before it (so that a damaged file
+// reads as empty, never as other descriptions). Texts are stored as their UTF-16 code units, so that
 // every one comes back exactly; numbers in the machine's own order, since
 // the cache never leaves it.
 
 namespace {
 
-constexpr char kMark[8] = {'Q', 'Z', 'D', 'C', '0', '0', '0', '3'};
+constexpr char kMark[8] = {'Q', 'Z', 'D', 'C', '0', '0', '0', '4'};
 constexpr qint64 kSettledNs = 2'000'000'000;
 // Far beyond any real cache (some 400,000 sets): a larger file is not
 // read at all.
@@ -25,6 +28,11 @@ constexpr qint64 kMostBytes = 64 * 1024 * 1024;
 // Folders not listed this time (another program folder, say) are kept, the
 // most recently listed first, up to this many.
 constexpr int kOtherFolders = 4;
+
+quint32 crcOf(const char *data, qsizetype size)
+{
+    return quint32(crc32(crc32(0L, Z_NULL, 0), reinterpret_cast<const Bytef *>(data), uInt(size)));
+}
 
 class Reader {
 public:
@@ -101,8 +109,15 @@ DescriptionCache::DescriptionCache(QString file, qint64 nowNs) : file_(std::move
     }
 }
 
-bool DescriptionCache::read(const QByteArray &bytes)
+bool DescriptionCache::read(const QByteArray &sealed)
 {
+    quint32 crc = 0;
+    if (sealed.size() < qsizetype(sizeof crc))
+        return false;
+    const QByteArray bytes = sealed.left(sealed.size() - qsizetype(sizeof crc));
+    std::memcpy(&crc, sealed.constData() + bytes.size(), sizeof crc);
+    if (crc != crcOf(bytes.constData(), bytes.size()))
+        return false;
     Reader in(bytes);
     if (!in.mark())
         return false;
@@ -266,6 +281,7 @@ void DescriptionCache::save() const
     out.text(widestNow_.name);
     out.number(qint32(widestNow_.width));
     out.mark();
+    out.number(crcOf(out.bytes().constData(), out.bytes().size()));
     QDir().mkpath(QFileInfo(file_).absolutePath());
     // Written beside and renamed over: a reader sees the old cache or the
     // new one, never half of one. A cache needs no flush to the disk: after
