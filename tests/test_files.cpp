@@ -25,6 +25,7 @@
 #include <csignal>
 #include <cstring>
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <linux/fs.h>
 #include <sys/ioctl.h>
 #include <sys/resource.h>
@@ -382,6 +383,22 @@ private slots:
         QCOMPARE(read(old), before);
         QCOMPARE(QDir(dir_.path()).entryList({QStringLiteral(".quizzarr-save-*")}, QDir::Hidden | QDir::Files),
                  QStringList());
+    }
+
+    // A save killed midway leaves its temporary file; the next save into
+    // the folder takes away those older than a minute, and no other file.
+    void aSaveRemovesWhatKilledSavesLeft()
+    {
+        const QString old = write(QStringLiteral(".quizzarr-save-killed"), "half a set");
+        const QString recent = write(QStringLiteral(".quizzarr-save-running"), "a save under way");
+        const QString other = write(QStringLiteral(".quizzarr-other"), "not ours");
+        const timespec times[2] = {{0, UTIME_OMIT}, {::time(nullptr) - 120, 0}};
+        for (const QString &path : {old, other})
+            QVERIFY(::utimensat(AT_FDCWD, QFile::encodeName(path).constData(), times, 0) == 0);
+        QVERIFY(!WriteQuestionSet(distinctSet(), dir_.filePath(QStringLiteral("Set"))));
+        QVERIFY(!QFile::exists(old));
+        QVERIFY(QFile::exists(recent));
+        QVERIFY(QFile::exists(other));
     }
 
     void copyOntoItselfFailsHoweverThePathIsSpelled_data()

@@ -5,6 +5,8 @@
 
 #include <cerrno>
 #include <cstring>
+#include <ctime>
+#include <dirent.h>
 #include <fcntl.h>
 #include <functional>
 #include <sys/stat.h>
@@ -40,6 +42,30 @@ mode_t modeForNewFile()
     return 0666 & ~mask;
 }
 
+constexpr char kTemporaryPrefix[] = ".quizzarr-save-";
+// A save takes well under this; a temporary file older than it was left by
+// a save that was killed midway.
+constexpr time_t kLeftBehindSeconds = 60;
+
+// Removes what killed saves left in the folder: a save never does this
+// for a file of a save still under way.
+void removeLeftBehind(const QByteArray &folder)
+{
+    DIR *dir = ::opendir(folder.constData());
+    if (!dir)
+        return;
+    const time_t now = ::time(nullptr);
+    const int fd = ::dirfd(dir);
+    while (const dirent *entry = ::readdir(dir)) {
+        struct stat st {};
+        if (std::strncmp(entry->d_name, kTemporaryPrefix, sizeof kTemporaryPrefix - 1) == 0 &&
+            ::fstatat(fd, entry->d_name, &st, AT_SYMLINK_NOFOLLOW) == 0 && S_ISREG(st.st_mode) &&
+            st.st_mtime < now - kLeftBehindSeconds)
+            ::unlinkat(fd, entry->d_name, 0);
+    }
+    ::closedir(dir);
+}
+
 // Fills a temporary file beside the target through fill (which returns 0 or
 // an error number), then puts it in the target's place. On any failure
 // the temporary file goes and the target is untouched.
@@ -71,7 +97,8 @@ FileError replaceFile(const QString &path, const std::function<int(int fd)> &fil
     if ((dir.st_mode & 0222) == 0)
         return systemError(EACCES);
 
-    QByteArray temporary = folder + "/.quizzarr-save-XXXXXX";
+    removeLeftBehind(folder);
+    QByteArray temporary = folder + '/' + kTemporaryPrefix + "XXXXXX";
     const int fd = ::mkstemp(temporary.data());
     if (fd < 0)
         return systemError(errno);
