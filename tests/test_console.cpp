@@ -141,6 +141,10 @@ private slots:
         QCOMPARE(board()->QWidget::geometry(), laptop->geometry());
         QCOMPARE(console()->screen(), projector);
 
+        boxes_->answers = {MsgBoxResult::No};
+        on(console(), QStringLiteral("cmdEndGame"))->click();
+        QVERIFY(board());
+        QCOMPARE(boxes_->shown.last().text, QStringLiteral("End the game now, without the standings? This cannot be undone."));
         on(console(), QStringLiteral("cmdEndGame"))->click();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QVERIFY(!board());
@@ -188,6 +192,14 @@ private slots:
         // A header parades the titles; the round ends, then the game.
         button("cmdHeader", 1)->click();
         QVERIFY(!board()->screenVisible());
+        // Nothing undoes an end: the console asks on the host's screen first.
+        boxes_->answers = {MsgBoxResult::No};
+        on(console(), QStringLiteral("cmdEndRound"))->click();
+        QCOMPARE(state_.Round, qint16(1));
+        QCOMPARE(boxes_->shown.last().text, QStringLiteral("End this round now? The tiles left in it will not be "
+                                                           "played. This cannot be undone."));
+        QCOMPARE(boxes_->shown.last().style, MsgBoxStyle::YesNo | MsgBoxStyle::Question);
+        QCOMPARE(boxes_->shown.last().owner, console());
         on(console(), QStringLiteral("cmdEndRound"))->click();
         QCOMPARE(state_.Round, qint16(2));
         QCOMPARE(button("cmdTile", 2)->text(), QStringLiteral("$200").prepend(

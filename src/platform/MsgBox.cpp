@@ -23,13 +23,13 @@ QString applicationTitle()
     return QStringLiteral("PLOV(tm) Quizzarr!");
 }
 
-MsgBoxResult MsgBox(const QString &text, int style, const QString &caption)
+MsgBoxResult MsgBox(const QString &text, int style, const QString &caption, QWidget *owner)
 {
     // The rules may ask before any screen exists to show a box (a tool, a
     // test without a script): the first button stands.
     if (!installed)
         return firstButton(style);
-    return installed->show(text, style, caption.isEmpty() ? applicationTitle() : caption);
+    return installed->show(text, style, caption.isEmpty() ? applicationTitle() : caption, owner);
 }
 
 void installMsgBoxHandler(MsgBoxHandler *handler)

@@ -32,12 +32,15 @@ QString applicationTitle();
 class MsgBoxHandler {
 public:
     virtual ~MsgBoxHandler() = default;
-    virtual MsgBoxResult show(const QString &text, int style, const QString &caption) = 0;
+    // owner: the window the box belongs to; nullptr: the active one.
+    virtual MsgBoxResult show(const QString &text, int style, const QString &caption, QWidget *owner) = 0;
 };
 
 // Shows a box (modal) and returns the button pressed. An empty caption
-// shows the application title.
-MsgBoxResult MsgBox(const QString &text, int style = MsgBoxStyle::OKOnly, const QString &caption = QString());
+// shows the application title. The box belongs to owner, when given (the
+// host's console asks on the host's screen, not the class's).
+MsgBoxResult MsgBox(const QString &text, int style = MsgBoxStyle::OKOnly, const QString &caption = QString(),
+                    QWidget *owner = nullptr);
 
 // Installs a handler (not owned). The game installs Qt's boxes at start-up;
 // without a handler every box answers with its first button.

@@ -10,9 +10,9 @@ ScriptedMsgBox::~ScriptedMsgBox()
     installMsgBoxHandler(nullptr);
 }
 
-MsgBoxResult ScriptedMsgBox::show(const QString &text, int style, const QString &caption)
+MsgBoxResult ScriptedMsgBox::show(const QString &text, int style, const QString &caption, QWidget *owner)
 {
-    shown.append({text, style, caption});
+    shown.append({text, style, caption, owner});
     if (whileShown)
         whileShown(shown.last());
     if (!answers.isEmpty())

@@ -13,6 +13,7 @@ struct ShownBox {
     QString text;
     int style = 0;
     QString caption;
+    QWidget *owner = nullptr;
 };
 
 class ScriptedMsgBox final : public MsgBoxHandler {
@@ -21,7 +22,7 @@ public:
     ScriptedMsgBox();
     ~ScriptedMsgBox() override;
 
-    MsgBoxResult show(const QString &text, int style, const QString &caption) override;
+    MsgBoxResult show(const QString &text, int style, const QString &caption, QWidget *owner) override;
 
     QList<ShownBox> shown;
     QList<MsgBoxResult> answers;

@@ -3,6 +3,7 @@
 #include "game/BoardGame.h"
 #include "game/GameRules.h"
 #include "game/GameState.h"
+#include "platform/MsgBox.h"
 #include "questions/GameReads.h"
 #include "ui/board/frmMain.h"
 
@@ -102,10 +103,12 @@ void frmConsole::createControls()
     cmdEndGame = named(new QPushButton(QStringLiteral("End game"), this), QStringLiteral("cmdEndGame"));
     cmdSwitch = named(new QPushButton(QStringLiteral("Switch screens"), this), QStringLiteral("cmdSwitch"));
     connect(cmdEndRound, &QPushButton::clicked, this, [this] {
-        act([](BoardGame &g) { g.KeyDown(QLatin1Char('N'), -1, 7); });
+        if (confirm(QStringLiteral("End this round now? The tiles left in it will not be played.")))
+            act([](BoardGame &g) { g.KeyDown(QLatin1Char('N'), -1, 7); });
     });
     connect(cmdEndGame, &QPushButton::clicked, this, [this] {
-        act([](BoardGame &g) { g.KeyDown(QLatin1Char('Q'), -1, 7); });
+        if (confirm(QStringLiteral("End the game now, without the standings?")))
+            act([](BoardGame &g) { g.KeyDown(QLatin1Char('Q'), -1, 7); });
     });
     connect(cmdSwitch, &QPushButton::clicked, this, &frmConsole::switchScreens);
     auto *bar = new QHBoxLayout;
@@ -248,6 +251,13 @@ void frmConsole::attach(frmMain *board)
         tmrRefresh->stop();
     }
     refresh();
+}
+
+bool frmConsole::confirm(const QString &question)
+{
+    // Nothing undoes these; a slip of the mouse must not end a game.
+    return MsgBox(question + QStringLiteral(" This cannot be undone."), MsgBoxStyle::YesNo | MsgBoxStyle::Question,
+                  QString(), this) == MsgBoxResult::Yes;
 }
 
 void frmConsole::act(const std::function<void(BoardGame &)> &action)

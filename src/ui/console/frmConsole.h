@@ -50,6 +50,7 @@ private:
     QWidget *createCluePanel();
     QWidget *createTeamPanel();
     void act(const std::function<void(BoardGame &)> &action);
+    bool confirm(const QString &question);
     void pressTile(int tile);
     void nameTeam(int team);
     void refreshGrid(const BoardGame &game);

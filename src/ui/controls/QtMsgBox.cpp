@@ -63,10 +63,11 @@ QFont readableFont()
 
 } // namespace
 
-MsgBoxResult QtMsgBox::show(const QString &text, int style, const QString &caption)
+MsgBoxResult QtMsgBox::show(const QString &text, int style, const QString &caption, QWidget *owner)
 {
     const Buttons buttons = buttonsFor(style);
-    QMessageBox box(iconFor(style), caption, text, QMessageBox::NoButton, QApplication::activeWindow());
+    QMessageBox box(iconFor(style), caption, text, QMessageBox::NoButton,
+                    owner ? owner : QApplication::activeWindow());
     box.setFont(readableFont());
     for (const auto &[button, result] : buttons)
         box.addButton(button);

@@ -5,5 +5,5 @@
 
 class QtMsgBox final : public MsgBoxHandler {
 public:
-    MsgBoxResult show(const QString &text, int style, const QString &caption) override;
+    MsgBoxResult show(const QString &text, int style, const QString &caption, QWidget *owner) override;
 };
