@@ -84,7 +84,9 @@ private slots:
 
     void importAsksFirstThenReplacesTheSet()
     {
-        const QString table = writeFile(path(QStringLiteral("Documents/Class Table.csv")), tableText());
+        QDir().mkpath(path(QStringLiteral("Downloads")));
+        const QString table = writeFile(path(QStringLiteral("Downloads/Class Table.csv")), tableText());
+        writeFile(path(QStringLiteral("Downloads/final.png")), "a picture");
         open(sampleSet());
         editor_->txtName->setText(QStringLiteral("changed"));
         boxes_->answers = {MsgBoxResult::Cancel};
@@ -118,11 +120,13 @@ private slots:
         QCOMPARE(editor_->cmbRounds->currentText(), QStringLiteral("1"));
         QCOMPARE(editor_->cmbCategories->currentText(), QStringLiteral("2"));
         QCOMPARE(editor_->Modified, QStringLiteral("X")); // not saved anywhere yet
-        // Save As proposes the table's own name beside it.
-        dialogs_->cancel();
+        // Save As proposes the table's own name where the home screen lists
+        // it, and takes the table's pictures along.
+        dialogs_->choose(path(QStringLiteral("Documents/Class Table.QZ2")));
         editor_->mnuSave->trigger();
         QCOMPARE(dialogs_->requests.last().fileName, QStringLiteral("Class Table"));
         QCOMPARE(dialogs_->requests.last().initialDir, path(QStringLiteral("Documents/")));
+        QVERIFY(QFile::exists(path(QStringLiteral("Documents/final.png"))));
     }
 
     void importFaultsKeepTheSet()

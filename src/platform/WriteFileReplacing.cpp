@@ -131,9 +131,15 @@ FileError CopyFileReplacing(const QString &from, const QString &to)
         return systemError(source.isDir() ? EISDIR : EINVAL);
     if (destination.exists() && source.canonicalFilePath() == destination.canonicalFilePath())
         return {EEXIST, QStringLiteral("A file cannot be copied onto itself.")};
-    const int in = ::open(QFile::encodeName(from).constData(), O_RDONLY | O_CLOEXEC);
+    // Never waits on a pipe or a device put in the file's place meanwhile.
+    const int in = ::open(QFile::encodeName(from).constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
     if (in < 0)
         return systemError(errno);
+    struct stat opened {};
+    if (::fstat(in, &opened) != 0 || !S_ISREG(opened.st_mode)) {
+        ::close(in);
+        return systemError(S_ISDIR(opened.st_mode) ? EISDIR : EINVAL);
+    }
     // Streamed in chunks: a file of any size copies without filling memory.
     const FileError result = replaceFile(to, [in](int fd) {
         std::vector<char> chunk(1 << 20);

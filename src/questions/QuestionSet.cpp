@@ -176,6 +176,28 @@ FileError WriteQuestionSet(const QuestionSet &set, const QString &FileName)
     return WriteFileReplacing(WithQz2Extension(FileName), QuestionSetFileBytes(set));
 }
 
+namespace {
+
+// Whether a folder, through whatever links lie on the way, is inside the
+// folder inside (a canonical path ending in "/"); a part not made yet
+// counts by the nearest part that is.
+bool staysInside(const QString &folder, const QString &inside)
+{
+    QFileInfo at(folder);
+    while (!at.exists() && at.absolutePath() != at.absoluteFilePath())
+        at = QFileInfo(at.absolutePath());
+    return (at.canonicalFilePath() + QLatin1Char('/')).startsWith(inside);
+}
+
+} // namespace
+
+bool IsPictureInSetFolder(const QString &name)
+{
+    const QString clean = QDir::cleanPath(name);
+    return !name.isEmpty() && QFileInfo(name).isRelative() && clean != QStringLiteral("..") &&
+           !clean.startsWith(QStringLiteral("../"));
+}
+
 FileError CopySetPictures(const QString &fromSet, const QString &toSet)
 {
     return CopySetPictures(LoadQuestionSet(fromSet), QFileInfo(fromSet).absolutePath(), QFileInfo(toSet).absolutePath());
@@ -192,12 +214,15 @@ FileError CopySetPictures(const QuestionSet &set, const QString &fromFolder, con
             names += QStringList(entry.Picture.begin(), entry.Picture.end());
     }
     FileError first;
+    const QString inside = QFileInfo(to.absolutePath()).canonicalFilePath() + QLatin1Char('/');
     for (const QString &name : names) {
-        const QString clean = QDir::cleanPath(name);
-        if (name.isEmpty() || QFileInfo(name).isAbsolute() || clean.startsWith(QStringLiteral("..")) ||
-            !QFileInfo(from.filePath(clean)).isFile())
+        if (!IsPictureInSetFolder(name) || !QFileInfo(from.filePath(name)).isFile())
             continue;
+        const QString clean = QDir::cleanPath(name);
         const QString target = to.filePath(clean);
+        // A folder on the way may be a link that leads out of the target.
+        if (!staysInside(QFileInfo(target).absolutePath(), inside))
+            continue;
         QDir().mkpath(QFileInfo(target).absolutePath());
         const FileError e = CopyFileReplacing(from.filePath(clean), target);
         if (e && !first)

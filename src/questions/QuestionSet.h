@@ -60,5 +60,8 @@ FileError WriteQuestionSet(const QuestionSet &set, const QString &FileName);
 // that are not there and a copy onto itself are passed over: the set plays
 // without them. The first failure to write comes back.
 FileError CopySetPictures(const QString &fromSet, const QString &toSet);
+// Whether a picture's name, as a set holds it, names a file in the set's
+// own folder or below: not absolute, and not leaving it ("../x.png").
+bool IsPictureInSetFolder(const QString &name);
 // The same for a set in memory, whose relative names start in fromFolder.
 FileError CopySetPictures(const QuestionSet &set, const QString &fromFolder, const QString &toFolder);

@@ -11,6 +11,6 @@
 int RunQz2(const QStringList &args, QTextStream &out, QTextStream &err);
 
 // The host's sheet of a set as a PDF; needs a QGuiApplication (main makes
-// one, offscreen, for this command alone).
+// one, offscreen).
 int sheet(const QStringList &args, QTextStream &out, QTextStream &err);
 

@@ -1,12 +1,12 @@
 #include "SetCheck.h"
 
-#include <QFileInfo>
-#include <QImageReader>
-
-#include "questions/GameReads.h"
 #include "platform/GetPrivateProfileString.h"
+#include "platform/PictureFile.h"
+#include "questions/GameReads.h"
+#include "questions/QuestionSet.h"
 
 #include <QFileInfo>
+
 
 namespace {
 
@@ -39,18 +39,23 @@ void checkListing(const QString &path, SetReport &report)
 // alone), so only the check tells of it.
 void checkPicture(const QString &path, int round, int tile, SetReport &report)
 {
-    const QString file = GameReads::CluePicture(path, round, tile);
-    if (file.isEmpty())
-        return;
     const QString section = GameReads::TileSection(round, tile);
     const QString key = tile < 0 ? QStringLiteral("Picture") : QStringLiteral("Picture") + QString::number(tile / 6);
-    QString problem;
-    if (!QFileInfo(file).isFile())
-        problem = QStringLiteral(" is missing");
-    else if (QImageReader reader(file); reader.read().isNull())
-        problem = QStringLiteral(" cannot be read as a picture (") + reader.errorString() + QLatin1Char(')');
+    const QString name = GetPrivateProfileString(section, key, QString(), path);
+    if (name.isEmpty())
+        return;
+    const QString where = QLatin1Char('[') + section + QStringLiteral("] ") + key + QStringLiteral(": ");
+    // Only a picture in the set's folder or below goes along when the set
+    // is exported, imported or saved elsewhere.
+    if (!IsPictureInSetFolder(name))
+        report.stayBehind << where + name +
+                                 (QFileInfo(name).isAbsolute() ? QStringLiteral(" is named by an absolute path")
+                                                               : QStringLiteral(" lies outside the set's folder"));
+    // As the largest screen shows it: what the game can show, qz2 passes.
+    const QString file = GameReads::PicturePath(path, name);
+    const QString problem = ReadPictureFile(file, QSize(3840, 2160)).problem;
     if (!problem.isEmpty())
-        report.pictures << QLatin1Char('[') + section + QStringLiteral("] ") + key + QStringLiteral(": ") + file + problem;
+        report.pictures << where + file + QLatin1Char(' ') + problem;
 }
 
 void checkMissing(const QString &path, int round, int tile, SetReport &report)
@@ -143,5 +148,8 @@ QString FormatReport(const QString &path, const SetReport &report)
                      m.section(QLatin1Char(' '), 1) + QStringLiteral("\")");
     for (const QString &p : report.pictures)
         lines << QStringLiteral("  picture: ") + p + QStringLiteral(" (the clue shows without it)");
+    for (const QString &p : report.stayBehind)
+        lines << QStringLiteral("  warning: ") + p + QStringLiteral(", so it stays behind when the set is exported, "
+                                                                      "imported or saved elsewhere");
     return lines.join(QLatin1Char('\n'));
 }

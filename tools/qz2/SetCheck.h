@@ -19,6 +19,7 @@ struct SetReport {
     QList<RoundReport> rounds;
     QStringList missing;   // "[Round1Category2] Answer3"
     QStringList pictures;  // "[Round1Category2] Picture3: maps/a.png is missing"
+    QStringList stayBehind; // "[Final] Picture: /srv/a.png is named by an absolute path"
     bool playable() const;
 };
 

@@ -2,8 +2,13 @@
 
 #include "Commands.h"
 
+#include "platform/ModuleFileName.h"
+#include "platform/SpecialFolders.h"
 #include "questions/QuestionSet.h"
 #include "questions/TableFiles.h"
+
+#include <QDir>
+#include <QFileInfo>
 
 namespace {
 
@@ -63,6 +68,49 @@ bool timerSeconds(const QString &text, qint16 *seconds)
     return true;
 }
 
+bool sameFolder(const QString &a, const QString &b)
+{
+    return QFileInfo(a).canonicalFilePath() == QFileInfo(b).canonicalFilePath();
+}
+
+// Copies the pictures a set names from one folder to another, and tells
+// the host of any that did not come along: named outside the set's folder,
+// missing, or not written.
+void copyPictures(const QuestionSet &set, const QString &from, const QString &to, QTextStream &err)
+{
+    if (sameFolder(from, to))
+        return;
+    QStringList behind;
+    for (const auto &round : set.Categories) {
+        for (const CategoryEntry &entry : round) {
+            for (const QString &name : entry.Picture) {
+                if (!name.isEmpty() && (!IsPictureInSetFolder(name) || !QFileInfo(QDir(from).filePath(name)).isFile()))
+                    behind << name;
+            }
+        }
+    }
+    const FileError error = CopySetPictures(set, from, to);
+    if (error)
+        err << "qz2: warning: the pictures could not all be copied to " << to << ": " << error.description << "\n";
+    if (!behind.isEmpty())
+        err << "qz2: warning: not copied to " << to << " (outside " << from << ", or missing): "
+            << behind.join(QStringLiteral(", ")) << "\n";
+}
+
+// The home screen lists the sets of two folders only; a set written
+// elsewhere is played once it is moved there.
+void noteWhereListed(const QString &set, QTextStream &out)
+{
+    const QString folder = QFileInfo(set).absolutePath();
+    const QString documents = SpecialFolders::path(SpecialFolders::kDocuments);
+    const QString program = ModuleFileName::programFolder();
+    if (sameFolder(folder, program) || (!documents.isEmpty() && sameFolder(folder, documents)))
+        return;
+    out << "note: the home screen lists only the sets in the program folder (" << QDir::cleanPath(program)
+        << ") and in Documents (" << (documents.isEmpty() ? QStringLiteral("none here") : documents)
+        << "); move " << QFileInfo(set).fileName() << " there to play it\n";
+}
+
 } // namespace
 
 int ImportTable(const QStringList &args, QTextStream &out, QTextStream &err)
@@ -100,6 +148,8 @@ int ImportTable(const QStringList &args, QTextStream &out, QTextStream &err)
         return 1;
     }
     out << "wrote " << target << "\n";
+    copyPictures(*result.set, QFileInfo(table).absolutePath(), QFileInfo(target).absolutePath(), err);
+    noteWhereListed(target, out);
     return 0;
 }
 
@@ -123,6 +173,8 @@ int ExportTable(const QStringList &args, QTextStream &out, QTextStream &err)
         return 1;
     }
     out << "wrote " << table << "\n";
+    // The table names the pictures as the set does: beside it they go too.
+    copyPictures(set, QFileInfo(setFile).absolutePath(), QFileInfo(table).absolutePath(), err);
     // A half-made set is worth exporting to finish it in the spreadsheet;
     // the host learns now what import would refuse.
     const TableImport back = QuestionSetFromTable(rows, set.Description, set.Timer);

@@ -2,22 +2,28 @@
 
 #include <QGuiApplication>
 
-#include <cstring>
-#include <memory>
+#include <cstdio>
+
+namespace {
+
+// qz2 speaks for itself on its own output; Qt's notes on the way (a
+// drawing's quirks, a missing runtime folder) are no concern of a host's.
+void onlyFatal(QtMsgType type, const QMessageLogContext &, const QString &message)
+{
+    if (type == QtFatalMsg)
+        std::fprintf(stderr, "qz2: %s\n", qPrintable(message));
+}
+
+} // namespace
 
 int main(int argc, char **argv)
 {
-    // Only the sheet lays text out in fonts, which takes a GUI application;
-    // it needs no screen.
-    std::unique_ptr<QCoreApplication> owner;
-    if (argc > 1 && std::strcmp(argv[1], "sheet") == 0) {
-        if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-            qputenv("QT_QPA_PLATFORM", "offscreen");
-        owner = std::make_unique<QGuiApplication>(argc, argv);
-    } else {
-        owner = std::make_unique<QCoreApplication>(argc, argv);
-    }
-    QCoreApplication &app = *owner;
+    qInstallMessageHandler(onlyFatal);
+    // Pictures and the sheet lay text out in fonts (a drawing's <text> as
+    // much as the sheet's clues), which takes a GUI application; none of
+    // them needs a screen, whatever the desktop says.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QGuiApplication app(argc, argv);
     QTextStream out(stdout), err(stderr);
     out.setEncoding(QStringConverter::Utf8);
     err.setEncoding(QStringConverter::Utf8);

@@ -11,8 +11,8 @@
 #include "ui/controls/CaptionControl.h"
 #include "platform/Clock.h"
 #include "platform/DigitRowKey.h"
+#include "platform/PictureFile.h"
 
-#include <QImageReader>
 #include <QKeyEvent>
 #include <QScreen>
 #include <QTimer>
@@ -236,16 +236,9 @@ QImage frmMain::cluePicture(const QString &path)
     const auto known = cluePictures_.constFind(path);
     if (known != cluePictures_.constEnd())
         return *known;
-    QImageReader reader(path);
-    reader.setAutoTransform(true);
     // Read at the size the screen shows it: a drawing comes out sharp, a
     // huge photo costs no more than the screen.
-    const QSize natural = reader.size();
-    const QSize screen = screenSize().toSize();
-    if (natural.isValid() && !natural.isEmpty() &&
-        (reader.format() == "svg" || natural.width() > screen.width() || natural.height() > screen.height()))
-        reader.setScaledSize(natural.scaled(screen, Qt::KeepAspectRatio));
-    const QImage image = reader.read();
+    const QImage image = ReadPictureFile(path, screenSize().toSize()).image;
     cluePictures_.insert(path, image);
     return image;
 }

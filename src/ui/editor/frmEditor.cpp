@@ -145,7 +145,7 @@ QString frmEditor::saveFolder() const
 {
     const qsizetype slash = CurrentFileBase.lastIndexOf(QLatin1Char('/'));
     const QString own = slash >= 0 ? ModuleFileName::withTrailingSeparator(CurrentFileBase.left(slash)) : QString();
-    return !own.isEmpty() && IsWritableFolder(own) ? own : questionFolder();
+    return !proposeDocuments_ && !own.isEmpty() && IsWritableFolder(own) ? own : questionFolder();
 }
 
 void frmEditor::mnuOpen_Click()
@@ -198,6 +198,7 @@ void frmEditor::mnuSave_Click()
         return;
     }
     Modified.clear();
+    proposeDocuments_ = false;
     // Saved into another folder (a sample set from the installed program
     // folder into the documents folder), the set takes the pictures it
     // names beside it along, as an export does; the set itself is saved

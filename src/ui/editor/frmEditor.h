@@ -133,6 +133,9 @@ private:
     // the set when that folder takes files, else questionFolder() — a set
     // opened from an installed program folder is saved among the user's.
     QString saveFolder() const;
+    // A set imported from a table is proposed in questionFolder() until it
+    // is saved: the home screen lists only there and the program folder.
+    bool proposeDocuments_ = false;
     // What every file dialog of the editor shares: this window as owner,
     // the folder it opens in, Explorer style, long names, no read-only box.
     void prepareDialog(clsOpenSaveDlg &dialog, const QString &folder);

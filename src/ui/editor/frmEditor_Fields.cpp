@@ -186,6 +186,7 @@ void frmEditor::selectCategory(int c)
 void frmEditor::newSet()
 {
     CurrentFileBase.clear();
+    proposeDocuments_ = false;
     questionSet = QuestionSet{};
     put(txtDesc, QString());
     txtSecs->setText(QStringLiteral("20"));

@@ -3,6 +3,7 @@
 
 #include "frmEditor.h"
 
+#include "platform/PictureFile.h"
 #include "questions/GameReads.h"
 #include "questions/clsOpenSaveDlg.h"
 #include "ui/controls/CaptionControl.h"
@@ -10,7 +11,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QPainter>
-#include <QImageReader>
 #include <QMenu>
 #include <QToolButton>
 
@@ -23,11 +23,7 @@ constexpr qreal kTwoRows = 40.8;
 
 QIcon thumbnail(const QString &path, QSize size)
 {
-    QImageReader reader(path);
-    const QSize natural = reader.size();
-    if (natural.isValid() && !natural.isEmpty())
-        reader.setScaledSize(natural.scaled(size, Qt::KeepAspectRatio));
-    const QImage image = reader.read();
+    const QImage image = ReadPictureFile(path, size).image;
     return image.isNull() ? QIcon() : QIcon(QPixmap::fromImage(image));
 }
 

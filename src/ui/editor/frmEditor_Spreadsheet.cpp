@@ -41,9 +41,11 @@ void frmEditor::mnuImportTable_Click()
     }
     newSet();
     questionSet = *result.set;
-    // Save As proposes the table's own name beside it, where qz2 would
-    // write the set.
+    // Save As proposes the table's own name in the documents folder, which
+    // the home screen lists; its pictures are still found beside the table,
+    // and the save takes them along.
     CurrentFileBase = FileBaseOf(table);
+    proposeDocuments_ = true;
     showSet();
     // Nothing of it is saved yet.
     Modified = QStringLiteral("X");
