@@ -137,7 +137,7 @@ private slots:
         editor_->mnuImportTable->trigger();
         QCOMPARE(boxes_->shown.size(), 1);
         QCOMPARE(boxes_->shown[0].text, QStringLiteral("Cannot import ") + table +
-                                            QStringLiteral(":\r\n\r\nrow 2, column C (Clue): the clue is empty"));
+                                            QStringLiteral(":\r\n\r\nrow 2 (\"1 | Cat 0 |  | r0\"), column C (Clue): the clue is empty"));
         QCOMPARE(boxes_->shown[0].style, MsgBoxStyle::OKOnly | MsgBoxStyle::Critical);
         QCOMPARE(boxes_->shown[0].caption, QStringLiteral("Import Spreadsheet"));
         QCOMPARE(editor_->questionSet.Description, QStringLiteral("Sample"));
@@ -196,7 +196,7 @@ private slots:
         QVERIFY(QFile::exists(half));
         QCOMPARE(boxes_->shown.size(), 1);
         QCOMPARE(boxes_->shown[0].text, QStringLiteral("The spreadsheet was written, but it will not import as it is:"
-                                                       "\r\n\r\nrow 2, column D (Clue): the clue is empty"));
+                                                       "\r\n\r\nrow 2 (\"1 | Only a title | 100\"), column D (Clue): the clue is empty"));
         QCOMPARE(boxes_->shown[0].style, MsgBoxStyle::OKOnly | MsgBoxStyle::Exclamation);
         dialogs_->choose(path(QStringLiteral("Documents/set.ods")));
         editor_->mnuExportTable->trigger();

@@ -32,6 +32,79 @@ QByteArray withWrongChecksum(QByteArray zip, const QByteArray &name)
     return zip;
 }
 
+// A sheet as a teacher saves it, the same in every format: a title row, a
+// blank row, then the header (and a hidden old "Clue" column E), round 1's
+// category "Rivers" written once in a cell merged over its five rows, with
+// a hidden spare clue among them, Round shown as "1.0", and the final.
+struct TeacherRow {
+    QString round, category, clue, response, spare;
+    bool hidden = false;
+};
+
+QList<TeacherRow> teacherRows()
+{
+    QList<TeacherRow> rows{{QStringLiteral("Round"), QStringLiteral("Category"), QStringLiteral("Clue"),
+                            QStringLiteral("Response"), QStringLiteral("Clue")}};
+    for (int j = 0; j < 6; ++j) {
+        const bool spare = j == 2; // hidden, among the five
+        rows.append({QStringLiteral("1"), j == 0 ? QStringLiteral("Rivers") : QString(),
+                     spare ? QStringLiteral("spare clue") : QStringLiteral("clue %1").arg(j),
+                     j == 0 ? QStringLiteral("1989") : QStringLiteral("response %1").arg(j), QStringLiteral("old"), spare});
+    }
+    rows.append({QStringLiteral("Final"), QStringLiteral("Seas"), QStringLiteral("final clue"),
+                 QStringLiteral("final response"), QString()});
+    return rows;
+}
+
+QByteArray teacherXlsxSheet()
+{
+    QByteArray rows;
+    const QList<TeacherRow> t = teacherRows();
+    auto cell = [](const char *ref, const QString &text, bool number = false) -> QByteArray {
+        if (text.isEmpty())
+            return {};
+        return number ? QByteArray("<c r=\"") + ref + "\"><v>" + text.toUtf8() + "</v></c>"
+                      : QByteArray("<c r=\"") + ref + "\" t=\"inlineStr\"><is><t>" + text.toUtf8() + "</t></is></c>";
+    };
+    rows += "<row r=\"1\">" + cell("A1", QStringLiteral("Quiz for class 5b")) + "</row>";
+    for (int i = 0; i < t.size(); ++i) {
+        const QByteArray n = QByteArray::number(i + 3);
+        rows += "<row r=\"" + n + "\"" + (t[i].hidden ? " hidden=\"1\"" : "") + ">" +
+                cell(("A" + n).constData(), t[i].round, t[i].round == QStringLiteral("1")) +
+                cell(("B" + n).constData(), t[i].category) + cell(("C" + n).constData(), t[i].clue) +
+                cell(("D" + n).constData(), t[i].response, t[i].response == QStringLiteral("1989")) + cell(("E" + n).constData(), t[i].spare) + "</row>";
+    }
+    return "<worksheet xmlns=\"http://schemas.openxmlformats.org/spreadsheetml/2006/main\"><cols><col min=\"5\" "
+           "max=\"5\" width=\"9\" hidden=\"1\"/></cols><sheetData>" + rows +
+           "</sheetData><mergeCells count=\"1\"><mergeCell ref=\"B4:B9\"/></mergeCells></worksheet>";
+}
+
+QString teacherOdsRows()
+{
+    QString xml = QStringLiteral("<table:table-column table:visibility=\"collapse\"/>") +
+                  odsRow({QStringLiteral("Quiz for class 5b")}) + QStringLiteral("<table:table-row/>");
+    const QList<TeacherRow> t = teacherRows();
+    for (int i = 0; i < t.size(); ++i) {
+        const QStringList texts{t[i].round, t[i].category, t[i].clue, t[i].response, t[i].spare};
+        QString cells;
+        for (int c = 0; c < texts.size(); ++c) {
+            if (c == 0 && texts[c] == QStringLiteral("1"))
+                cells += QStringLiteral("<table:table-cell office:value-type=\"float\" office:value=\"1\"><text:p>1.0</text:p></table:table-cell>");
+            else if (c == 3 && texts[c] == QStringLiteral("1989")) // a year, shown with a separator
+                cells += QStringLiteral("<table:table-cell office:value-type=\"float\" office:value=\"1989\"><text:p>1,989</text:p></table:table-cell>");
+            else if (c == 1 && i == 1)
+                cells += QStringLiteral("<table:table-cell table:number-rows-spanned=\"6\"><text:p>%1</text:p></table:table-cell>").arg(texts[c]);
+            else if (c == 1 && i > 1 && i < 7)
+                cells += QStringLiteral("<table:covered-table-cell/>");
+            else
+                cells += QStringLiteral("<table:table-cell><text:p>%1</text:p></table:table-cell>").arg(texts[c]);
+        }
+        xml += QStringLiteral("<table:table-row%1>%2</table:table-row>")
+                   .arg(t[i].hidden ? QStringLiteral(" table:visibility=\"collapse\"") : QString(), cells);
+    }
+    return xml;
+}
+
 } // namespace
 
 class TestTableFiles : public QObject {
@@ -109,10 +182,10 @@ private slots:
         rows[5][2] = QString(); // row 6
         const QString file = write(QStringLiteral("rows.csv"), csvText(rows, ',', lineEnd));
         QCOMPARE(ImportQuestionTable(file, QString(), 20).error,
-                 QStringLiteral("row 4, column D (Response): a line break inside the text; a set holds every text on one line"));
+                 QStringLiteral("row 4 (\"1 | R1 Cat 0 | r1c0 clue 1 | a response of two lines in a qu\u2026\"), column D (Response): a line break inside the text; a set holds every text on one line"));
         rows[3][3] = QStringLiteral("fine");
         write(QStringLiteral("rows.csv"), csvText(rows, ',', lineEnd));
-        QCOMPARE(ImportQuestionTable(file, QString(), 20).error, QStringLiteral("row 6, column C (Clue): the clue is empty"));
+        QCOMPARE(ImportQuestionTable(file, QString(), 20).error, QStringLiteral("row 6 (\"1 | R1 Cat 0 |  | r1c0 response 3\"), column C (Clue): the clue is empty"));
         write(QStringLiteral("rows.csv"), "Round,Category\n1,\"never closed\nstill,going" + lineEnd);
         const TableImport open = ImportQuestionTable(file, QString(), 20);
         QVERIFY(open.unreadable);
@@ -167,7 +240,7 @@ private slots:
         // The blank row still counts: row 6 is the fourth clue.
         rows[5][2] = QString();
         writeXlsx(file, rows, true);
-        QCOMPARE(ImportQuestionTable(file, QString(), 20).error, QStringLiteral("row 6, column C (CLUE): the clue is empty"));
+        QCOMPARE(ImportQuestionTable(file, QString(), 20).error, QStringLiteral("row 6 (\"\u00c6r\u00f8 & <Co> \"quoted\" | note |  | 1 | R1 Cat 0\"), column C (CLUE): the clue is empty"));
     }
 
     void xlsxLayoutsOfOtherProgramsAreRead()
@@ -211,6 +284,68 @@ private slots:
                                                      QStringLiteral("#N/A")}));
     }
 
+    // Saved by a spreadsheet program as a teacher fills it in: what shows
+    // is what imports.
+    void teachersSheetsImportAsTheyLook_data()
+    {
+        QTest::addColumn<QString>("format");
+        QTest::newRow("xlsx") << QStringLiteral("xlsx");
+        QTest::newRow("ods") << QStringLiteral("ods");
+        QTest::newRow("csv") << QStringLiteral("csv");
+    }
+    void teachersSheetsImportAsTheyLook()
+    {
+        QFETCH(QString, format);
+        const QString file = path(QStringLiteral("teacher.") + format);
+        if (format == QStringLiteral("ods")) {
+            writeOds(file, teacherOdsRows());
+        } else if (format == QStringLiteral("xlsx")) {
+            writeZip(file, {{QStringLiteral("xl/workbook.xml"), "<workbook><sheets><sheet name=\"Q\" sheetId=\"1\" r:id=\"rId1\" "
+                                                                "xmlns:r=\"r\"/></sheets></workbook>"},
+                            {QStringLiteral("xl/_rels/workbook.xml.rels"), "<Relationships><Relationship Id=\"rId1\" "
+                                                                           "Type=\"x/worksheet\" Target=\"worksheets/sheet1.xml\"/></Relationships>"},
+                            {QStringLiteral("xl/worksheets/sheet1.xml"), teacherXlsxSheet()}});
+        } else {
+            // No merges or hiding in a text file: the title, "1.0", and the
+            // category in another letter case and with blanks around it.
+            Rows rows{{QStringLiteral("Quiz for class 5b")}, {}};
+            for (const TeacherRow &t : teacherRows()) {
+                if (!t.hidden)
+                    rows << QStringList{t.round == QStringLiteral("1") ? QStringLiteral("1.0") : t.round,
+                                        t.category.isEmpty() ? QStringLiteral(" rivers ") : t.category, t.clue, t.response};
+            }
+            write(QStringLiteral("teacher.csv"), csvText(rows));
+        }
+        const TableImport result = ImportQuestionTable(file, QStringLiteral("d"), 20);
+        QVERIFY2(result.set, qPrintable(result.error));
+        const CategoryEntry &rivers = result.set->Categories[0][0];
+        QCOMPARE(result.set->CategoryCount[0], qint16(1));
+        QCOMPARE(rivers.Title, QStringLiteral("Rivers"));
+        QCOMPARE(QStringList(rivers.Answer.begin(), rivers.Answer.end()),
+                 (QStringList{QStringLiteral("clue 0"), QStringLiteral("clue 1"), QStringLiteral("clue 3"),
+                              QStringLiteral("clue 4"), QStringLiteral("clue 5")}));
+        QCOMPARE(rivers.Question[0], QStringLiteral("1989")); // a number by its value, not its look
+        QCOMPARE(result.set->Categories[2][0].Title, QStringLiteral("Seas"));
+    }
+
+    // A category spelled otherwise in one row: that row is named, not the
+    // four that are right; a sheet with no header among its first ten rows
+    // names the row that came closest, with what it holds.
+    void faultsNameTheRowAtFault()
+    {
+        Rows rows = setRows(2, 0);
+        rows[8][1] = QStringLiteral("R1 Cat1"); // row 9: the fourth of "R1 Cat 1"
+        QCOMPARE(ImportQuestionTable(write(QStringLiteral("spelt.csv"), csvText(rows)), QString(), 20).error,
+                 QStringLiteral("row 9 (\"1 | R1 Cat1 | r1c1 clue 2 | r1c1 response 2\"), column B (Category): \"R1 Cat1\" "
+                                "(row 9) in round 1 is spelled otherwise than \"R1 Cat 1\" (rows 7, 8, 10, 11); the five "
+                                "rows of a category name it alike"));
+        Rows titles(10, QStringList{QStringLiteral("Quiz")});
+        titles[4] = QStringList{QStringLiteral("Round"), QStringLiteral("Category"), QStringLiteral("Question")};
+        QCOMPARE(ImportQuestionTable(write(QStringLiteral("titles.csv"), csvText(titles + setRows(1, 0))), QString(), 20).error,
+                 QStringLiteral("row 5 (\"Round | Category | Question\"): the header has no columns \"Clue\", \"Response\"; "
+                                "one of the first ten filled rows must name the columns Round, Category, Clue and Response"));
+    }
+
     void odsIsReadAsItsCellsShowIt()
     {
         QString rowsXml = odsRow({QStringLiteral("Round"), QStringLiteral("Category"), QStringLiteral("Clue"),
@@ -251,7 +386,7 @@ private slots:
         const QString file = path(QStringLiteral("lines.ods"));
         writeOds(file, rowsXml);
         QCOMPARE(ImportQuestionTable(file, QString(), 20).error,
-                 QStringLiteral("row 3, column C (Clue): a line break inside the text; a set holds every text on one line"));
+                 QStringLiteral("row 3 (\"1 | R1 Cat 0 | one two | r1c0 response 1\"), column C (Clue): a line break inside the text; a set holds every text on one line"));
         // A filled row repeated past any set's size stops at the limit.
         writeOds(file, odsRow(rows[0]) + QStringLiteral("<table:table-row table:number-rows-repeated=\"900000\">") +
                            odsRow(rows[1]).mid(17));
@@ -342,6 +477,31 @@ private slots:
         write(QStringLiteral("crc.xlsx"), withWrongChecksum(bytes, "xl/worksheets/sheet1.xml"));
         QCOMPARE(ReadTableFile(path(QStringLiteral("crc.xlsx"))).error,
                  QStringLiteral("xl/worksheets/sheet1.xml inside is damaged (zip error -105)"));
+    }
+
+    // Small files that ask for endless work: a repeated huge cell over
+    // every column and past the row limit, and a cell with a hundred
+    // thousand attributes. Each is refused at once (broken, each would keep
+    // this test busy for minutes).
+    void filesThatAskForEndlessWorkAreRefused()
+    {
+        const QString repeated = path(QStringLiteral("repeated.ods"));
+        writeOds(repeated, QStringLiteral("<table:table-row table:number-rows-repeated=\"10001\"><table:table-cell "
+                                          "table:number-columns-repeated=\"256\"><text:p><text:s text:c=\"65535\"/>x"
+                                          "</text:p></table:table-cell></table:table-row>"));
+        QVERIFY(QFileInfo(repeated).size() < 1000);
+        QCOMPARE(ReadTableFile(repeated).error,
+                 QStringLiteral("more than 10000 filled rows by row 10001; a question set's table has at most 62"));
+        QByteArray attributes = "<worksheet><sheetData><row r=\"1\"><c r=\"A1\"";
+        for (int i = 0; i < 100000; ++i)
+            attributes += " a" + QByteArray::number(i) + "=\"\"";
+        attributes += "/></row></sheetData></worksheet>";
+        const QString crowded = path(QStringLiteral("crowded.xlsx"));
+        writeZip(crowded, {{QStringLiteral("xl/workbook.xml"), "<workbook><sheets><sheet sheetId=\"1\"/></sheets></workbook>"},
+                           {QStringLiteral("xl/_rels/workbook.xml.rels"), "<Relationships/>"},
+                           {QStringLiteral("xl/worksheets/sheet1.xml"), attributes}});
+        QCOMPARE(ReadTableFile(crowded).error,
+                 QStringLiteral("xl/worksheets/sheet1.xml inside is damaged (a tag with over 512 attributes)"));
     }
 
     void anyBytesGetAnAnswer()

@@ -141,40 +141,42 @@ private slots:
         picture[2] << QStringLiteral("a\r\nb.png");
         missing[0][3] = QStringLiteral("Answer");
         QTest::newRow("four clues") << csvText(four)
-                                    << "row 5, column B (Category): \"R1 Cat 0\" in round 1 has 4 clues (rows 2, 3, 4, 5); "
+                                    << "row 5 (\"1 | R1 Cat 0 | r1c0 clue 3 | r1c0 response 3\"), column B (Category): \"R1 Cat 0\" in round 1 has 4 clues (rows 2, 3, 4, 5); "
                                        "a category needs 5";
         QTest::newRow("six clues") << csvText(six)
-                                   << "row 7, column B (Category): a sixth clue for \"R1 Cat 0\" in round 1 (five are in "
+                                   << "row 7 (\"1 | R1 Cat 0 | x | y\"), column B (Category): a sixth clue for \"R1 Cat 0\" in round 1 (five are in "
                                       "rows 2, 3, 4, 5, 6); a category holds 5";
         QTest::newRow("seven categories")
             << csvText(setRows(7, 0))
-            << "row 32, column B (Category): a seventh category, \"R1 Cat 6\", in round 1; a round holds at most 6";
+            << "row 32 (\"1 | R1 Cat 6 | r1c6 clue 0 | r1c6 response 0\"), column B (Category): a seventh category, \"R1 Cat 6\", in round 1; a round holds at most 6";
         QTest::newRow("unknown round") << with(3, 0, QStringLiteral("3"))
-                                       << "row 4, column A (Round): \"3\" is not a round; write 1, 2 or Final";
+                                       << "row 4 (\"3 | R1 Cat 0 | r1c0 clue 2 | r1c0 response 2\"), column A (Round): \"3\" is not a round; write 1, 2 or Final";
         QTest::newRow("missing column") << csvText(missing)
-                                        << "row 1: the header has no column \"Response\"; the first filled row must "
-                                           "name the columns Round, Category, Clue and Response";
-        QTest::newRow("second column") << csvText(duplicate) << "row 1, column E: a second column \"Clue\" (the first is column C)";
+                                        << "row 1 (\"Round | Category | Clue | Answer\"): the header has no column \"Response\"; one of "
+                                           "the first ten filled rows must name the columns Round, Category, Clue and Response";
+        QTest::newRow("second column") << csvText(duplicate) << "row 1 (\"Round | Category | Clue | Response | clue\"), column E: a second column \"Clue\" (the first is column C)";
         QTest::newRow("line break") << with(2, 2, QStringLiteral("two\nlines"))
-                                    << "row 3, column C (Clue): a line break inside the text; a set holds every text on one line";
+                                    << "row 3 (\"1 | R1 Cat 0 | two lines | r1c0 response 1\"), column C (Clue): a line break inside the text; a set holds every text on one line";
         QTest::newRow("line break in a picture")
-            << csvText(picture) << "row 3, column E (Picture): a line break inside the text; a set holds every text on one line";
-        QTest::newRow("empty clue") << with(2, 2, QString()) << "row 3, column C (Clue): the clue is empty";
-        QTest::newRow("blank response") << with(4, 3, QStringLiteral("   ")) << "row 5, column D (Response): the response is empty";
-        QTest::newRow("empty category") << with(2, 1, QString()) << "row 3, column B (Category): the category is empty";
-        QTest::newRow("empty round") << with(2, 0, QString()) << "row 3, column A (Round): the round is empty";
+            << csvText(picture) << "row 3 (\"1 | R1 Cat 0 | r1c0 clue 1 | r1c0 response 1 | a  b.png\"), column E (Picture): a line break inside the text; a set holds every text on one line";
+        QTest::newRow("empty clue") << with(2, 2, QString()) << "row 3 (\"1 | R1 Cat 0 |  | r1c0 response 1\"), column C (Clue): the clue is empty";
+        QTest::newRow("blank response") << with(4, 3, QStringLiteral("   ")) << "row 5 (\"1 | R1 Cat 0 | r1c0 clue 3\"), column D (Response): the response is empty";
+        QTest::newRow("empty category") << with(2, 1, QString()) << "row 3 (\"1 |  | r1c0 clue 1 | r1c0 response 1\"), column B (Category): the category is empty";
+        QTest::newRow("empty round") << with(2, 0, QString()) << "row 3 (\" | R1 Cat 0 | r1c0 clue 1 | r1c0 response 1\"), column A (Round): the round is empty";
         QTest::newRow("control character") << with(2, 3, QStringLiteral("bell\x07"))
-                                           << "row 3, column D (Response): a control character (U+0007) inside the text";
+                                           << "row 3 (\"1 | R1 Cat 0 | r1c0 clue 1 | bell \"), column D (Response): a control character (U+0007) inside the text";
         QTest::newRow("too long") << with(2, 2, QString(2000, QLatin1Char('x')))
-                                  << "row 3, column C (Clue): 2000 characters; a text holds at most 1999";
+                                  << QStringLiteral("row 3 (\"1 | R1 Cat 0 | %1\u2026\"), column C (Clue): 2000 characters; a text holds at "
+                                                    "most 1999").arg(QString(45, QLatin1Char('x')));
         QTest::newRow("no final") << csvText(setRows(2, 0, false))
                                   << "no Final row; a set needs one final clue, a row whose Round is Final";
         QTest::newRow("two finals") << csvText(twoFinals)
-                                    << "row 13, column A (Round): a second Final row (the first is row 12); a set has one final clue";
+                                    << "row 13 (\"Final | Final Cat | final clue | final response\"), column A (Round): a second Final row (the first is row 12); a set has one final clue";
         QTest::newRow("round 2 only") << csvText(setRows(0, 1))
-                                      << "no row of round 1 (round 2 starts at row 2); a set starts with round 1";
+                                      << "no row of round 1 (round 2 starts at row 2 (\"2 | R2 Cat 0 | r2c0 clue 0 | r2c0 response 0\")); a set "
+                                         "starts with round 1";
         QTest::newRow("header only") << csvText(setRows(0, 0, false))
-                                     << "no row of round 1 below the header (row 1); a set needs at least one category of round 1";
+                                     << "no row of round 1 below the header (row 1 (\"Round | Category | Clue | Response\")); a set needs at least one category of round 1";
         QTest::newRow("empty file") << QByteArray("\r\n\r\n")
                                     << "the table is empty; its first row must name the columns Round, Category, Clue and Response";
     }
@@ -365,7 +367,7 @@ private slots:
         QCOMPARE(runQz2({QStringLiteral("export"), half, path(QStringLiteral("half.csv"))}, &out, &err), 0);
         QVERIFY(QFile::exists(path(QStringLiteral("half.csv"))));
         QCOMPARE(QString::fromUtf8(err), QStringLiteral("qz2: warning: ") + path(QStringLiteral("half.csv")) +
-                                             QStringLiteral(" will not import as it is: row 7, column B (Category): a "
+                                             QStringLiteral(" will not import as it is: row 7 (\"1 | A | 100 | r1c1a0 | r1c1q0\"), column B (Category): a "
                                                             "sixth clue for \"A\" in round 1 (five are in rows 2, 3, "
                                                             "4, 5, 6); a category holds 5\n"));
     }

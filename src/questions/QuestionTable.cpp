@@ -1,5 +1,6 @@
 #include "QuestionTable.h"
 
+#include <algorithm>
 #include <array>
 
 namespace {
@@ -12,6 +13,9 @@ const std::array<QString, FieldCount> kFieldNames{QStringLiteral("Round"), QStri
                                                   QStringLiteral("Clue"), QStringLiteral("Response"),
                                                   QStringLiteral("Picture")};
 constexpr int kRequiredFields = PictureField;
+// Title rows may stand above the header: it is the first of these many
+// filled rows that names every required column.
+constexpr int kHeaderSearch = 10;
 
 struct Clue {
     qint64 row = 0;
@@ -23,15 +27,39 @@ struct Category {
     QList<Clue> clues;
 };
 
-QString rowName(qint64 row)
-{
-    return QStringLiteral("row ") + QString::number(row);
-}
-
 // A host's text inside a message, cut short when it is long.
 QString quoted(const QString &text)
 {
     return QLatin1Char('"') + (text.size() > 40 ? text.left(40) + QStringLiteral("…") : text) + QLatin1Char('"');
+}
+
+// A row named as a host finds it: its number and what it holds, its cells
+// parted by " | ", cut short when long.
+QString rowName(const TableRow &row)
+{
+    QString holds;
+    qsizetype filled = row.cells.size();
+    while (filled > 0 && row.cells[filled - 1].trimmed().isEmpty())
+        --filled;
+    for (qsizetype c = 0; c < filled && holds.size() <= 60; ++c)
+        holds += (c ? QStringLiteral(" | ") : QString()) + row.cells[c].left(61).trimmed();
+    for (QChar &c : holds) {
+        if (c.category() == QChar::Other_Control || c == QChar::LineSeparator || c == QChar::ParagraphSeparator)
+            c = QLatin1Char(' ');
+    }
+    return QStringLiteral("row ") + QString::number(row.number) + QStringLiteral(" (\"") +
+           (holds.size() > 60 ? holds.left(60) + QStringLiteral("…") : holds) + QStringLiteral("\")");
+}
+
+// A round as a cell may hold it: 1, 2 (also as a number such as "1.0") or
+// Final in any letter case; 0 for anything else.
+int roundOf(const QString &text)
+{
+    if (text.compare(QStringLiteral("Final"), Qt::CaseInsensitive) == 0)
+        return 3;
+    bool ok = false;
+    const double n = text.toDouble(&ok);
+    return ok && (n == 1.0 || n == 2.0) ? int(n) : 0;
 }
 
 QString roundName(int round)
@@ -58,8 +86,8 @@ public:
         if (table_.rows.isEmpty())
             return QStringLiteral("the table is empty; its first row must name the columns "
                                   "Round, Category, Clue and Response");
-        QString fault = readHeader(table_.rows.first());
-        for (qsizetype i = 1; fault.isEmpty() && i < table_.rows.size(); ++i)
+        QString fault = findHeader();
+        for (qsizetype i = header_ + 1; fault.isEmpty() && i < table_.rows.size(); ++i)
             fault = addRow(table_.rows[i]);
         return fault.isEmpty() ? checkComplete() : fault;
     }
@@ -70,11 +98,19 @@ private:
     QString where(qint64 row, Field field) const
     {
         const int column = columns_[size_t(field)];
-        return rowName(row) + QStringLiteral(", column ") + ColumnLetters(column) + QStringLiteral(" (") +
+        return rowName(rowNumbered(row)) + QStringLiteral(", column ") + ColumnLetters(column) + QStringLiteral(" (") +
                headerText(column) + QLatin1Char(')');
     }
 
-    QString headerText(int column) const { return table_.rows.first().cells.value(column).trimmed(); }
+    const TableRow &rowNumbered(qint64 number) const
+    {
+        const auto it = std::lower_bound(table_.rows.begin(), table_.rows.end(), number,
+                                         [](const TableRow &r, qint64 n) { return r.number < n; });
+        return it != table_.rows.end() ? *it : table_.rows.first();
+    }
+
+    const TableRow &header() const { return table_.rows[header_]; }
+    QString headerText(int column) const { return header().cells.value(column).trimmed(); }
 
     QString cell(const TableRow &row, Field field) const
     {
@@ -82,26 +118,56 @@ private:
         return column < 0 ? QString() : row.cells.value(column).trimmed();
     }
 
+    QString findHeader();
     QString readHeader(const TableRow &header);
+    QString misspelt(int round, const Category &category) const;
     QString addRow(const TableRow &row);
     QString addClue(int round, const Clue &clue);
     QString addFinal(const Clue &clue);
     QString checkComplete() const;
 
     const Table &table_;
+    qsizetype header_ = 0;
     std::array<int, FieldCount> columns_{};
     std::array<QList<Category>, 2> rounds_;
     std::optional<Clue> final_;
 };
 
+// The first of the first rows that names every required column; if none
+// does, the fault names the row that comes closest.
+QString TableMapper::findHeader()
+{
+    qsizetype best = 0;
+    int bestFound = -1;
+    for (qsizetype i = 0; i < qMin<qsizetype>(kHeaderSearch, table_.rows.size()); ++i) {
+        int found = 0;
+        for (const QString &name : table_.rows[i].cells) {
+            // A header's name is short: a long cell is passed over unread.
+            for (int f = 0; f < kRequiredFields && name.size() < 64; ++f)
+                found += name.trimmed().compare(kFieldNames[size_t(f)], Qt::CaseInsensitive) == 0 ? 1 : 0;
+        }
+        if (found >= kRequiredFields) {
+            best = i;
+            break;
+        }
+        if (found > bestFound) {
+            best = i;
+            bestFound = found;
+        }
+    }
+    header_ = best;
+    return readHeader(table_.rows[best]);
+}
+
 QString TableMapper::readHeader(const TableRow &header)
 {
     for (int column = 0; column < header.cells.size(); ++column) {
         for (int f = 0; f < FieldCount; ++f) {
-            if (header.cells[column].trimmed().compare(kFieldNames[size_t(f)], Qt::CaseInsensitive) != 0)
+            if (header.cells[column].size() >= 64 ||
+                header.cells[column].trimmed().compare(kFieldNames[size_t(f)], Qt::CaseInsensitive) != 0)
                 continue;
             if (columns_[size_t(f)] >= 0)
-                return rowName(header.number) + QStringLiteral(", column ") + ColumnLetters(column) +
+                return rowName(header) + QStringLiteral(", column ") + ColumnLetters(column) +
                        QStringLiteral(": a second column ") + quoted(kFieldNames[size_t(f)]) +
                        QStringLiteral(" (the first is column ") + ColumnLetters(columns_[size_t(f)]) +
                        QStringLiteral(")");
@@ -115,9 +181,10 @@ QString TableMapper::readHeader(const TableRow &header)
     }
     if (missing.isEmpty())
         return QString();
-    return rowName(header.number) + QStringLiteral(": the header has no column") +
+    return rowName(header) + QStringLiteral(": the header has no column") +
            (missing.size() > 1 ? QStringLiteral("s ") : QStringLiteral(" ")) + missing.join(QStringLiteral(", ")) +
-           QStringLiteral("; the first filled row must name the columns Round, Category, Clue and Response");
+           QStringLiteral("; one of the first ten filled rows must name the columns Round, Category, Clue and "
+                          "Response");
 }
 
 QString TableMapper::addRow(const TableRow &row)
@@ -140,12 +207,12 @@ QString TableMapper::addRow(const TableRow &row)
         if (!fault.isEmpty())
             return where(row.number, Field(f)) + QStringLiteral(": ") + fault;
     }
-    const QString &round = clue.text[RoundField];
-    if (round.compare(QStringLiteral("Final"), Qt::CaseInsensitive) == 0)
+    const int round = roundOf(clue.text[RoundField]);
+    if (round == 3)
         return addFinal(clue);
-    if (round == QStringLiteral("1") || round == QStringLiteral("2"))
-        return addClue(round.toInt() - 1, clue);
-    return where(row.number, RoundField) + QStringLiteral(": ") + quoted(round) +
+    if (round > 0)
+        return addClue(round - 1, clue);
+    return where(row.number, RoundField) + QStringLiteral(": ") + quoted(clue.text[RoundField]) +
            QStringLiteral(" is not a round; write 1, 2 or Final");
 }
 
@@ -153,7 +220,9 @@ QString TableMapper::addClue(int round, const Clue &clue)
 {
     QList<Category> &categories = rounds_[size_t(round)];
     const QString &title = clue.text[CategoryField];
-    auto it = std::find_if(categories.begin(), categories.end(), [&](const Category &c) { return c.title == title; });
+    // Spelled alike in any letter case: the first row's spelling stands.
+    auto it = std::find_if(categories.begin(), categories.end(),
+                           [&](const Category &c) { return c.title.compare(title, Qt::CaseInsensitive) == 0; });
     if (it == categories.end()) {
         if (categories.size() == 6)
             return where(clue.row, CategoryField) + QStringLiteral(": a seventh category, ") + quoted(title) +
@@ -178,10 +247,30 @@ QString TableMapper::addFinal(const Clue &clue)
     return QString();
 }
 
+// A short category that another short one of its round would make whole
+// is most likely spelled otherwise in its rows: the fault names those.
+QString TableMapper::misspelt(int round, const Category &category) const
+{
+    for (const Category &other : rounds_[size_t(round)]) {
+        if (&other == &category || other.clues.size() + category.clues.size() != 5)
+            continue;
+        const Category &odd = other.clues.size() < category.clues.size() ? other : category;
+        const Category &rest = &odd == &other ? category : other;
+        return where(odd.clues.first().row, CategoryField) + QStringLiteral(": ") + quoted(odd.title) +
+               QStringLiteral(" (") + rowList(odd.clues) + QStringLiteral(") in ") + roundName(round) +
+               QStringLiteral(" is spelled otherwise than ") + quoted(rest.title) + QStringLiteral(" (") +
+               rowList(rest.clues) + QStringLiteral("); the five rows of a category name it alike");
+    }
+    return QString();
+}
+
 QString TableMapper::checkComplete() const
 {
     for (int r = 0; r < 2; ++r) {
         for (const Category &c : rounds_[size_t(r)]) {
+            const QString odd = c.clues.size() < 5 ? misspelt(r, c) : QString();
+            if (!odd.isEmpty())
+                return odd;
             if (c.clues.size() < 5)
                 return where(c.clues.last().row, CategoryField) + QStringLiteral(": ") + quoted(c.title) +
                        QStringLiteral(" in ") + roundName(r) + QStringLiteral(" has ") +
@@ -191,10 +280,10 @@ QString TableMapper::checkComplete() const
     }
     if (rounds_[0].isEmpty()) {
         if (!rounds_[1].isEmpty())
-            return QStringLiteral("no row of round 1 (round 2 starts at row ") +
-                   QString::number(rounds_[1].first().clues.first().row) +
+            return QStringLiteral("no row of round 1 (round 2 starts at ") +
+                   rowName(rowNumbered(rounds_[1].first().clues.first().row)) +
                    QStringLiteral("); a set starts with round 1");
-        return QStringLiteral("no row of round 1 below the header (") + rowName(table_.rows.first().number) +
+        return QStringLiteral("no row of round 1 below the header (") + rowName(header()) +
                QStringLiteral("); a set needs at least one category of round 1");
     }
     if (!final_)

@@ -9,6 +9,7 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <cerrno>
 
 namespace {
@@ -59,21 +60,73 @@ TableFile readText(const QString &path, QFile &file)
 
 } // namespace
 
+bool TableBuilder::blank(const QString &text)
+{
+    if (text.isSharedWith(lastJudged_) || text.isEmpty())
+        return text.isEmpty() || lastBlank_;
+    lastJudged_ = text;
+    lastBlank_ = std::all_of(text.begin(), text.end(), [](QChar c) { return c.isSpace(); });
+    return lastBlank_;
+}
+
+void TableBuilder::hideColumns(qint64 first, qint64 count)
+{
+    for (qint64 c = qMax<qint64>(0, first); c < qMin<qint64>(kMaxTableColumns, first + count); ++c) {
+        while (hidden_.size() <= c)
+            hidden_.append(false);
+        hidden_[c] = true;
+    }
+}
+
 void TableBuilder::addCell(int column, const QString &text)
 {
-    if (column < 0 || column >= kMaxTableColumns || text.trimmed().isEmpty())
+    if (column < 0 || column >= kMaxTableColumns || hidden_.value(column) || blank(text))
         return;
     while (cells_.size() <= column)
         cells_.append(QString());
     cells_[column] = text;
 }
 
-void TableBuilder::endRow(qint64 number)
+void TableBuilder::endRow(qint64 number, qint64 repeated)
 {
-    if (!cells_.isEmpty() && !full())
-        table_.rows.append({number, cells_});
+    if (!cells_.isEmpty() && !full()) {
+        if (repeated > kMaxTableRows - table_.rows.size())
+            tooMany_ = number + kMaxTableRows - table_.rows.size(); // counted, not made
+        for (qint64 k = 0; k < repeated && !full(); ++k)
+            table_.rows.append({number + k, cells_});
+    }
     cells_.clear();
-    lastNumber_ = number;
+}
+
+void TableBuilder::addMerge(qint64 row, qint64 column, qint64 rows, qint64 columns)
+{
+    // More merges than a set's table has cells is a damaged file's.
+    constexpr int kMostMerges = 4096;
+    if (row >= 1 && column >= 0 && column < kMaxTableColumns && (rows > 1 || columns > 1) && merges_.size() < kMostMerges)
+        merges_.append({row, column, qMax<qint64>(1, rows), qBound<qint64>(1, columns, kMaxTableColumns - column)});
+}
+
+void TableBuilder::applyMerges()
+{
+    // Rows are in order of their numbers: each merge finds its first row
+    // and walks only the rows it spans that have something in them.
+    for (const Merge &m : merges_) {
+        const auto byNumber = [](const TableRow &r, qint64 n) { return r.number < n; };
+        auto first = std::lower_bound(table_.rows.begin(), table_.rows.end(), m.row, byNumber);
+        if (first == table_.rows.end() || first->number != m.row)
+            continue;
+        const QString text = first->cells.value(m.column);
+        for (auto r = first; r != table_.rows.end() && r->number < m.row + m.rows; ++r) {
+            for (qint64 c = m.column; c < m.column + m.columns; ++c) {
+                if (hidden_.value(c))
+                    continue;
+                while (r->cells.size() <= c)
+                    r->cells.append(QString());
+                if (r->cells[c].isEmpty())
+                    r->cells[c] = text;
+            }
+        }
+    }
 }
 
 TableFile TableBuilder::finish()
@@ -81,8 +134,61 @@ TableFile TableBuilder::finish()
     if (full())
         return {{}, QStringLiteral("more than %1 filled rows by row %2; a question set's table has at most 62")
                         .arg(kMaxTableRows)
-                        .arg(table_.rows.last().number)};
+                        .arg(tooMany_)};
+    applyMerges();
     return {table_, QString()};
+}
+
+QString UnreasonableXml(const QByteArray &xml, const QString &name)
+{
+    constexpr int kMostAttributes = 512;
+    if (xml.size() > ZipReader::kEntryLimit)
+        return name + QStringLiteral(" inside is too large for a question set's table");
+    // A walk over the bytes: inside a tag, outside quotes, each "=" is an
+    // attribute; comments and CDATA hold text, not tags.
+    enum { Text, Tag, Quoted, Skipped } state = Text;
+    char quote = 0;
+    int attributes = 0;
+    QByteArray skipEnd;
+    for (qsizetype i = 0; i < xml.size(); ++i) {
+        const char c = xml[i];
+        switch (state) {
+        case Text:
+            if (c != '<')
+                break;
+            if (xml.mid(i, 4) == "<!--" || xml.mid(i, 9) == "<![CDATA[") {
+                skipEnd = xml[i + 2] == '-' ? QByteArray("-->") : QByteArray("]]>");
+                state = Skipped;
+            } else {
+                state = Tag;
+                attributes = 0;
+            }
+            break;
+        case Tag:
+            if (c == '"' || c == '\'') {
+                quote = c;
+                state = Quoted;
+            } else if (c == '=' && ++attributes > kMostAttributes) {
+                return name + QStringLiteral(" inside is damaged (a tag with over %1 attributes)").arg(kMostAttributes);
+            } else if (c == '>') {
+                state = Text;
+            }
+            break;
+        case Quoted:
+            if (c == quote)
+                state = Tag;
+            break;
+        case Skipped: {
+            const qsizetype end = xml.indexOf(skipEnd, i);
+            if (end < 0)
+                return QString(); // the reader will name the damage
+            i = end + skipEnd.size() - 1;
+            state = Text;
+            break;
+        }
+        }
+    }
+    return QString();
 }
 
 TableFile ReadTableFile(const QString &path)

@@ -29,23 +29,49 @@ private:
 };
 
 // Grows a table row by row, keeping rows with something in them only and
-// stopping at the limits of a question set's table.
+// stopping at the limits of a question set's table. Work stays bounded
+// whatever a file repeats: a repeated cell is judged blank or not once, and
+// a filled row repeated past the limit is counted, not made.
 class TableBuilder {
 public:
-    // A cell of the current row; cells right of the last column read are
-    // dropped.
+    // Columns the host hid: their cells are passed over.
+    void hideColumns(qint64 first, qint64 count);
+    // A cell of the current row; cells right of the last column read and
+    // cells of hidden columns are dropped.
     void addCell(int column, const QString &text);
-    // Ends the current row, which the spreadsheet numbers so.
-    void endRow(qint64 number);
-    bool full() const { return table_.rows.size() > kMaxTableRows; }
+    // Ends the current row, which the spreadsheet numbers so; repeated, the
+    // same cells stand in the rows numbered after it too.
+    void endRow(qint64 number, qint64 repeated = 1);
+    // A merged cell: the text of its first cell counts for every cell it
+    // spans, in the rows that have something in them.
+    void addMerge(qint64 row, qint64 column, qint64 rows, qint64 columns);
+    bool full() const { return tooMany_ > 0; }
     // The table, or the fault that stopped it.
     TableFile finish();
 
+    // Whether a text shows nothing; judged once for a text shared by many
+    // cells (a repeated cell).
+    bool blank(const QString &text);
+
 private:
+    void applyMerges();
+
     Table table_;
     QStringList cells_;
-    qint64 lastNumber_ = 0;
+    QList<bool> hidden_;
+    struct Merge {
+        qint64 row, column, rows, columns;
+    };
+    QList<Merge> merges_;
+    qint64 tooMany_ = 0; // the row that went past the limit, once one did
+    QString lastJudged_;
+    bool lastBlank_ = true;
 };
+
+// Whether XML can be read in bounded time: no start tag holds more than a
+// few hundred attributes (an XML reader compares each with every other),
+// and the file is no larger than kEntryLimit. Empty when it can, else why.
+QString UnreasonableXml(const QByteArray &xml, const QString &name);
 
 namespace TableCsv {
 // Text with its separator (comma, semicolon or tab) and its encoding

@@ -1,13 +1,15 @@
 // OpenDocument spreadsheets (.ods): a zip whose content.xml holds every
-// sheet. Only the first sheet's cells are read, as the text a host sees in
-// them. Rows and cells can be marked repeated (a sheet's empty tail is one
-// row repeated a million times), so a repeat costs nothing until something
-// is in it.
+// sheet. Only the first sheet's visible cells are read, as the text a host
+// sees in them, a number by its value. Rows and cells can be marked
+// repeated (a sheet's empty tail is one row repeated a million times), so
+// a repeat costs nothing until something is in it, and then is counted.
 
 #include "TableFormats.h"
 
 
 #include <QXmlStreamReader>
+
+#include <cmath>
 
 namespace {
 
@@ -67,10 +69,21 @@ QString paragraph(QXmlStreamReader &x)
     return text;
 }
 
-// A cell's paragraphs, one line each; a cell without any shows its value.
+// A number as a spreadsheet shows it in a general cell: "1", "0.3".
+QString numberText(const QString &value)
+{
+    bool ok = false;
+    const double number = value.toDouble(&ok);
+    return ok && std::isfinite(number) ? QString::number(number, 'g', 15) : value;
+}
+
+// A cell's paragraphs, one line each; a number cell, or a cell without
+// paragraphs, is its value ("1", not the "1.0" a format shows).
 QString cellText(QXmlStreamReader &x)
 {
-    const QString value = x.attributes().value(kOfficeNs, QLatin1String("value")).toString();
+    const QXmlStreamAttributes a = x.attributes();
+    const QString value = a.value(kOfficeNs, QLatin1String("value")).toString();
+    const bool number = a.value(kOfficeNs, QLatin1String("value-type")) == QLatin1String("float");
     QStringList lines;
     while (x.readNextStartElement()) {
         if (is(x, kTextNs, "p") || is(x, kTextNs, "h"))
@@ -78,40 +91,47 @@ QString cellText(QXmlStreamReader &x)
         else
             x.skipCurrentElement();
     }
+    if (number && !value.isEmpty())
+        return numberText(value);
     return lines.isEmpty() ? value : lines.join(QLatin1Char('\n'));
 }
 
-QStringList rowCells(QXmlStreamReader &x)
+bool hidden(const QXmlStreamReader &x)
 {
-    QStringList cells;
+    const QStringView visibility = x.attributes().value(kTableNs, QLatin1String("visibility"));
+    return !visibility.isEmpty() && visibility != QLatin1String("visible");
+}
+
+// The cells of a row into the table, merged cells noted; nothing of a row
+// the host hid.
+void readRow(QXmlStreamReader &x, TableBuilder &table, qint64 row)
+{
+    const bool shown = !hidden(x);
+    int column = 0;
     while (x.readNextStartElement()) {
         if (!is(x, kTableNs, "table-cell") && !is(x, kTableNs, "covered-table-cell")) {
             x.skipCurrentElement();
             continue;
         }
-        const qint64 count = qMin<qint64>(repeat(x, "number-columns-repeated"), kMaxTableColumns - cells.size());
+        const qint64 count = qMin<qint64>(repeat(x, "number-columns-repeated"), kMaxTableColumns - column);
+        const qint64 rows = repeat(x, "number-rows-spanned"), columns = repeat(x, "number-columns-spanned");
+        if (shown)
+            table.addMerge(row, column, rows, columns);
         const QString text = cellText(x);
-        for (qint64 k = 0; k < count; ++k)
-            cells.append(text);
-    }
-    return cells;
-}
-
-void addRows(TableBuilder &table, const QStringList &cells, qint64 first, qint64 count)
-{
-    const bool empty = cells.join(QString()).trimmed().isEmpty();
-    for (qint64 k = 0; k < count && !empty && !table.full(); ++k) {
-        for (qsizetype c = 0; c < cells.size(); ++c)
-            table.addCell(int(c), cells[c]);
-        table.endRow(first + k);
+        for (qint64 k = 0; k < count && shown; ++k)
+            table.addCell(int(column + k), text);
+        column += int(count);
     }
 }
 
 TableFile readContent(const QByteArray &bytes)
 {
+    const QString unreasonable = UnreasonableXml(bytes, kContent);
+    if (!unreasonable.isEmpty())
+        return {{}, unreasonable};
     TableBuilder table;
     QXmlStreamReader x(bytes);
-    qint64 row = 0;
+    qint64 row = 0, column = 0;
     bool inTable = false;
     while (!x.atEnd() && !table.full()) {
         const QXmlStreamReader::TokenType token = x.readNext();
@@ -123,9 +143,15 @@ TableFile readContent(const QByteArray &bytes)
             if (inTable)
                 x.skipCurrentElement(); // a table inside a cell's drawing
             inTable = true;
+        } else if (inTable && is(x, kTableNs, "table-column")) {
+            const qint64 count = repeat(x, "number-columns-repeated");
+            if (hidden(x))
+                table.hideColumns(column, count);
+            column += qMin<qint64>(count, kMaxTableColumns);
         } else if (inTable && is(x, kTableNs, "table-row")) {
             const qint64 count = repeat(x, "number-rows-repeated");
-            addRows(table, rowCells(x), row + 1, count);
+            readRow(x, table, row + 1);
+            table.endRow(row + 1, count);
             row += count;
         }
     }

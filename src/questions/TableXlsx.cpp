@@ -89,6 +89,8 @@ QString findParts(ZipReader &zip, Parts &parts)
 {
     QString error;
     const QByteArray workbook = zip.entry(kWorkbook, &error);
+    if (error.isEmpty())
+        error = UnreasonableXml(workbook, kWorkbook);
     if (!error.isEmpty())
         return error;
     QString sheetId;
@@ -98,6 +100,8 @@ QString findParts(ZipReader &zip, Parts &parts)
     }
     const QString relsName = QStringLiteral("xl/_rels/workbook.xml.rels");
     const QByteArray rels = zip.entry(relsName, &error);
+    if (error.isEmpty())
+        error = UnreasonableXml(rels, relsName);
     if (!error.isEmpty())
         return error;
     QXmlStreamReader x(rels);
@@ -121,8 +125,13 @@ QString readSharedStrings(ZipReader &zip, const QString &name, QStringList &stri
     const QByteArray bytes = zip.entry(name, &error);
     if (!error.isEmpty())
         return error;
+    const QString unreasonable = UnreasonableXml(bytes, name);
+    if (!unreasonable.isEmpty())
+        return unreasonable;
+    // No sheet of a set's table uses more strings than it has cells.
+    constexpr qsizetype kMostStrings = qsizetype(kMaxTableRows) * 8;
     QXmlStreamReader x(bytes);
-    while (!x.atEnd()) {
+    while (!x.atEnd() && strings.size() < kMostStrings) {
         if (x.readNext() == QXmlStreamReader::StartElement && x.name() == QLatin1String("si"))
             strings << itemText(x);
     }
@@ -173,11 +182,53 @@ QString cellText(QXmlStreamReader &x, const QStringList &strings)
     return numberText(value);
 }
 
+// "B12" → row 12, column 1; false for anything else.
+bool cellAt(QStringView reference, qint64 *row, qint64 *column)
+{
+    qsizetype letters = 0;
+    while (letters < reference.size() && reference[letters].isLetter())
+        ++letters;
+    bool ok = false;
+    *row = reference.mid(letters).toLongLong(&ok);
+    *column = columnOf(reference.left(letters).toString(), -1);
+    return ok && letters > 0 && *row >= 1 && *column >= 0;
+}
+
+// A merged range, "B2:B6", for the table.
+void addMerge(TableBuilder &table, const QString &range)
+{
+    const qsizetype colon = range.indexOf(QLatin1Char(':'));
+    qint64 row1 = 0, column1 = 0, row2 = 0, column2 = 0;
+    if (colon > 0 && cellAt(QStringView(range).left(colon), &row1, &column1) &&
+        cellAt(QStringView(range).mid(colon + 1), &row2, &column2) && row2 >= row1 && column2 >= column1)
+        table.addMerge(row1, column1, row2 - row1 + 1, column2 - column1 + 1);
+}
+
+// Columns the host hid: <col min="3" max="4" hidden="1"/>, counted from 1.
+void hideColumns(TableBuilder &table, const QXmlStreamReader &x)
+{
+    if (attribute(x, "hidden") != QLatin1String("1") && attribute(x, "hidden") != QLatin1String("true"))
+        return;
+    const qint64 first = attribute(x, "min").toLongLong(), last = attribute(x, "max").toLongLong();
+    if (first >= 1 && last >= first)
+        table.hideColumns(first - 1, qMin<qint64>(last - first + 1, kMaxTableColumns));
+}
+
+bool isHiddenRow(const QXmlStreamReader &x)
+{
+    const QString hidden = attribute(x, "hidden");
+    return hidden == QLatin1String("1") || hidden == QLatin1String("true");
+}
+
 TableFile readSheet(const QByteArray &bytes, const QString &name, const QStringList &strings)
 {
+    const QString unreasonable = UnreasonableXml(bytes, name);
+    if (!unreasonable.isEmpty())
+        return {{}, unreasonable};
     TableBuilder table;
     qint64 row = 0;
     int column = -1;
+    bool hiddenRow = false;
     QXmlStreamReader x(bytes);
     while (!x.atEnd() && !table.full()) {
         const QXmlStreamReader::TokenType token = x.readNext();
@@ -185,11 +236,18 @@ TableFile readSheet(const QByteArray &bytes, const QString &name, const QStringL
             const qint64 number = attribute(x, "r").toLongLong();
             row = number > row ? number : row + 1;
             column = -1;
+            hiddenRow = isHiddenRow(x);
         } else if (token == QXmlStreamReader::StartElement && x.name() == QLatin1String("c")) {
             column = columnOf(attribute(x, "r"), column + 1);
-            table.addCell(column, cellText(x, strings));
+            const QString text = cellText(x, strings);
+            if (!hiddenRow)
+                table.addCell(column, text);
         } else if (token == QXmlStreamReader::EndElement && x.name() == QLatin1String("row")) {
             table.endRow(row);
+        } else if (token == QXmlStreamReader::StartElement && x.name() == QLatin1String("col")) {
+            hideColumns(table, x);
+        } else if (token == QXmlStreamReader::StartElement && x.name() == QLatin1String("mergeCell")) {
+            addMerge(table, attribute(x, "ref"));
         }
     }
     if (x.hasError())
