@@ -467,6 +467,53 @@ private slots:
         QCOMPARE(runQz2({QStringLiteral("sheet"), dir_.filePath(QStringLiteral("absent.QZ2")), pdf}, &out), 1);
     }
 
+    // A clue and its response stay on one page, and a category's title
+    // never stands alone at a page's foot, however long the clues run.
+    void theSheetKeepsEachClueOnOnePage()
+    {
+        QuestionSet set = distinctSet();
+        for (int r = 0; r < 2; ++r) {
+            for (int c = 0; c < 6; ++c) {
+                for (int j = 0; j < 5; ++j) {
+                    const QString id = QStringLiteral("%1%2%3").arg(r).arg(c).arg(j);
+                    set.Categories[size_t(r)][size_t(c)].Answer[size_t(j)] =
+                        QStringLiteral("start%1 ").arg(id) + QStringLiteral("words and more words ").repeated((c * 5 + j) % 13) +
+                        QStringLiteral("end%1").arg(id);
+                    set.Categories[size_t(r)][size_t(c)].Question[size_t(j)] = QStringLiteral("response%1").arg(id);
+                }
+            }
+        }
+        const QString pdf = dir_.filePath(QStringLiteral("long.pdf"));
+        QVERIFY(!WriteHostSheet(set, pdf, QPageSize::A4));
+        QProcess p;
+        p.start(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), pdf, QStringLiteral("-")});
+        QVERIFY(p.waitForFinished(20000));
+        const QStringList pages = QString::fromUtf8(p.readAllStandardOutput()).split(QLatin1Char('\f'));
+        QVERIFY(pages.size() > 4);
+        for (int r = 0; r < 2; ++r) {
+            for (int c = 0; c < 6; ++c) {
+                for (int j = 0; j < 5; ++j) {
+                    const QString id = QStringLiteral("%1%2%3").arg(r).arg(c).arg(j);
+                    const auto onPage = [&](const QString &word) {
+                        for (int page = 0; page < pages.size(); ++page) {
+                            if (pages[page].contains(word))
+                                return page;
+                        }
+                        return -1;
+                    };
+                    const int page = onPage(QStringLiteral("start") + id);
+                    QVERIFY(page >= 0);
+                    QCOMPARE(onPage(QStringLiteral("end") + id), page);
+                    QCOMPARE(onPage(QStringLiteral("response") + id), page);
+                }
+            }
+        }
+        for (const QString &page : pages) {
+            const QStringList lines = page.trimmed().split(QLatin1Char('\n'));
+            QVERIFY2(!lines.last().trimmed().endsWith(QStringLiteral(" title")), qPrintable(lines.last()));
+        }
+    }
+
     void qz2ConvertsALegacyFile()
     {
         const QString legacy = write(QStringLiteral("Conv.QZA"),

@@ -1,8 +1,12 @@
 #include "HostSheet.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QBuffer>
+#include <QPainter>
 #include <QPdfWriter>
 #include <QTextDocument>
+
+#include <memory>
 
 namespace {
 
@@ -15,19 +19,72 @@ QString cell(const QString &text)
     return text.toHtmlEscaped();
 }
 
-QString categoryTable(const CategoryEntry &c, int round)
+// One clue's row: the same column widths in every row, so the rows of a
+// category line up as one table.
+QString clueRow(const CategoryEntry &c, int round, int j)
 {
-    QString html = QStringLiteral("<h3>") + cell(c.Title) + QStringLiteral("</h3><table width=\"100%\" cellpadding=\"3\">");
-    const int rows = round == 2 ? 1 : 5;
-    for (int j = 0; j < rows; ++j) {
-        const QString value = round == 2 ? QStringLiteral("Final") : QLatin1Char('$') + QString::number((j + 1) * (round + 1) * 100);
-        QString clue = cell(c.Answer[size_t(j)]);
-        if (!c.Picture[size_t(j)].isEmpty())
-            clue += QStringLiteral(" <i>[picture: ") + cell(c.Picture[size_t(j)]) + QStringLiteral("]</i>");
-        html += QStringLiteral("<tr><td width=\"12%\" style=\"white-space: nowrap\"><b>") + value + QStringLiteral("</b></td><td width=\"53%\">") + clue +
-                QStringLiteral("</td><td width=\"35%\"><b>") + cell(c.Question[size_t(j)]) + QStringLiteral("</b></td></tr>");
+    const QString value = round == 2 ? QStringLiteral("Final") : QLatin1Char('$') + QString::number((j + 1) * (round + 1) * 100);
+    QString clue = cell(c.Answer[size_t(j)]);
+    if (!c.Picture[size_t(j)].isEmpty())
+        clue += QStringLiteral(" <i>[picture: ") + cell(c.Picture[size_t(j)]) + QStringLiteral("]</i>");
+    return QStringLiteral("<table width=\"100%\" cellpadding=\"3\"><tr><td width=\"12%\" style=\"white-space: nowrap\"><b>") +
+           value + QStringLiteral("</b></td><td width=\"53%\">") + clue + QStringLiteral("</td><td width=\"35%\"><b>") +
+           cell(c.Question[size_t(j)]) + QStringLiteral("</b></td></tr></table>");
+}
+
+void appendCategory(QList<SheetPiece> &pieces, const CategoryEntry &c, int round)
+{
+    pieces.append({QStringLiteral("<h3>") + cell(c.Title) + QStringLiteral("</h3>"), false, true});
+    for (int j = 0; j < (round == 2 ? 1 : 5); ++j)
+        pieces.append({clueRow(c, round, j), false, false});
+}
+
+// One piece, laid out at the page's width in the PDF's own units.
+std::unique_ptr<QTextDocument> laidOut(const SheetPiece &piece, QPdfWriter &pdf, qreal width)
+{
+    auto doc = std::make_unique<QTextDocument>();
+    doc->documentLayout()->setPaintDevice(&pdf);
+    QFont font(QStringLiteral("Arial"));
+    font.setPointSizeF(kPoints);
+    doc->setDefaultFont(font);
+    doc->setHtml(piece.html);
+    doc->setTextWidth(width);
+    return doc;
+}
+
+// Places the pieces page by page: a piece goes to a new page when it (and
+// whatever must stay with it) does not fit the rest of this one; only a
+// piece taller than a whole page is cut, at the page's foot.
+void paginate(const QList<SheetPiece> &pieces, QPdfWriter &pdf)
+{
+    const QRectF page = pdf.pageLayout().paintRectPixels(pdf.resolution()).toRectF();
+    const qreal width = page.width(), height = page.height();
+    std::vector<std::unique_ptr<QTextDocument>> docs;
+    for (const SheetPiece &piece : pieces)
+        docs.push_back(laidOut(piece, pdf, width));
+    QPainter painter(&pdf);
+    qreal y = 0;
+    for (size_t i = 0; i < docs.size(); ++i) {
+        qreal needed = docs[i]->size().height();
+        for (size_t k = i; k + 1 < docs.size() && pieces[qsizetype(k)].keepWithNext; ++k)
+            needed += docs[k + 1]->size().height();
+        if (y > 0 && (pieces[qsizetype(i)].newPage || (y + needed > height && needed <= height))) {
+            pdf.newPage();
+            y = 0;
+        }
+        const qreal h = docs[i]->size().height();
+        for (qreal shown = 0; shown < h; shown += height) {
+            if (shown > 0) {
+                pdf.newPage();
+                y = 0;
+            }
+            painter.save();
+            painter.translate(0, y - shown);
+            docs[i]->drawContents(&painter, QRectF(0, shown, width, qMin(height - y, h - shown)));
+            painter.restore();
+            y += qMin(height - y, h - shown);
+        }
     }
-    return html + QStringLiteral("</table>");
 }
 
 } // namespace
@@ -37,18 +94,20 @@ QPageSize::PageSizeId HostSheetPaper(const QLocale &locale)
     return locale.measurementSystem() == QLocale::ImperialUSSystem ? QPageSize::Letter : QPageSize::A4;
 }
 
-QString HostSheetHtml(const QuestionSet &set)
+QList<SheetPiece> HostSheetPieces(const QuestionSet &set)
 {
-    QString html = QStringLiteral("<h1>") + cell(set.Description) + QStringLiteral("</h1><p>Answer time: ") +
-                   QString::number(set.Timer) + QStringLiteral(" seconds. Clue, then the response in bold.</p>");
+    QList<SheetPiece> pieces{{QStringLiteral("<h1>") + cell(set.Description) + QStringLiteral("</h1><p>Answer time: ") +
+                                  QString::number(set.Timer) +
+                                  QStringLiteral(" seconds. Clue, then the response in bold.</p>"),
+                              false, true}};
     for (int r = 0; r < set.RoundCount; ++r) {
-        html += QStringLiteral("<h2") + (r > 0 ? QStringLiteral(" style=\"page-break-before: always\"") : QString()) +
-                QStringLiteral(">Round ") + QString::number(r + 1) + QStringLiteral("</h2>");
+        pieces.append({QStringLiteral("<h2>Round ") + QString::number(r + 1) + QStringLiteral("</h2>"), r > 0, true});
         for (int c = 0; c < set.CategoryCount[size_t(r)]; ++c)
-            html += categoryTable(set.Categories[size_t(r)][size_t(c)], r);
+            appendCategory(pieces, set.Categories[size_t(r)][size_t(c)], r);
     }
-    html += QStringLiteral("<h2 style=\"page-break-before: always\">Final</h2>") + categoryTable(set.Categories[2][0], 2);
-    return html;
+    pieces.append({QStringLiteral("<h2>Final</h2>"), true, true});
+    appendCategory(pieces, set.Categories[2][0], 2);
+    return pieces;
 }
 
 FileError WriteHostSheet(const QuestionSet &set, const QString &pdfPath, QPageSize::PageSizeId paper)
@@ -61,14 +120,7 @@ FileError WriteHostSheet(const QuestionSet &set, const QString &pdfPath, QPageSi
         pdf.setCreator(QStringLiteral("PLOV(tm) Quizzarr!"));
         pdf.setPageSize(QPageSize(paper));
         pdf.setPageMargins(QMarginsF(15, 15, 15, 15), QPageLayout::Millimeter);
-        QTextDocument doc;
-        QFont font(QStringLiteral("Arial"));
-        font.setPointSizeF(kPoints);
-        doc.setDefaultFont(font);
-        doc.setHtml(HostSheetHtml(set));
-        // Laid out on the page's own width, in points, so the tables use it whole.
-        doc.setPageSize(pdf.pageLayout().paintRectPoints().size());
-        doc.print(&pdf);
+        paginate(HostSheetPieces(set), pdf);
     }
     return WriteFileReplacing(pdfPath, bytes.data());
 }
