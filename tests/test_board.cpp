@@ -17,7 +17,13 @@
 #include "shell/PictureLibrary.h"
 #include "shell/Libraries.h"
 
+#include "questions/HostSheet.h"
+
+#include <QGlyphRun>
+#include <QProcess>
+#include <QRawFont>
 #include <QTemporaryDir>
+#include <QTextLayout>
 #include <QtTest>
 
 namespace {
@@ -118,6 +124,40 @@ private slots:
         state_.PicIdDailyDouble = 401;
         state_.PicIdFinal = 402;
         state_.PicIdBackdrop = 403;
+    }
+
+    // Clues in any script show as letters, never as empty boxes: on the
+    // answer screen (its font, and the fonts the system falls back to) and
+    // on the host's sheet, which carries the fonts it needs.
+    void everyScriptShows_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::newRow("Chinese") << QStringLiteral("\u5317\u4eac\u662f\u4e2d\u56fd\u7684\u9996\u90fd\u3002");
+        QTest::newRow("Japanese") << QStringLiteral("\u6771\u4eac\u30bf\u30ef\u30fc\u306f\u3069\u3053\uff1f");
+        QTest::newRow("Korean") << QStringLiteral("\ud55c\uad6d\uc758 \uc218\ub3c4\ub294?");
+        QTest::newRow("emoji") << QStringLiteral("Which animal is \U0001f981?");
+    }
+    void everyScriptShows()
+    {
+        QFETCH(QString, text);
+        std::unique_ptr<BoardUnderTest> board(newBoard(QSize(1024, 768)));
+        board->showOnScreen(text);
+        QCOMPARE(board->vseTV->caption().remove(QLatin1Char('\n')).remove(QLatin1Char(' ')), QString(text).remove(QLatin1Char(' ')));
+        QTextLayout layout(text, board->vseTV->font());
+        layout.beginLayout();
+        layout.createLine();
+        layout.endLayout();
+        for (const QGlyphRun &run : layout.glyphRuns())
+            QVERIFY2(!run.glyphIndexes().contains(0), qPrintable(run.rawFont().familyName()));
+        QuestionSet set = distinctSet();
+        set.Categories[0][0].Answer[0] = text;
+        const QString pdf = QDir::temp().filePath(QStringLiteral("quizzarr-scripts.pdf"));
+        QVERIFY(!WriteHostSheet(set, pdf, QPageSize::A4));
+        QProcess fonts;
+        fonts.start(QStringLiteral("pdffonts"), {pdf});
+        QVERIFY(fonts.waitForFinished(20000));
+        QVERIFY(fonts.readAllStandardOutput().contains(text.contains(QStringLiteral("\U0001f981")) ? "Emoji" : "CJK"));
+        QFile::remove(pdf);
     }
 
     void lays800PixelBoardOut()
