@@ -245,6 +245,25 @@ private slots:
         QVERIFY(qAbs(board->vseCategories->y() - (g.y0 + 5)) <= 1);
     }
 
+    // On a board wider than 1024 pixels the teams' labels grow with it,
+    // from 12 points, as everything else on the board does.
+    void teamLabelsGrowWithTheBoard_data()
+    {
+        QTest::addColumn<QSize>("size");
+        QTest::addColumn<qreal>("points");
+        QTest::newRow("1024") << QSize(1024, 768) << 12.0;
+        QTest::newRow("1920x1080") << QSize(1920, 1080) << 16.875; // a 1440 pixel wide 4:3 area
+        QTest::newRow("3840x2160") << QSize(3840, 2160) << 33.75;
+    }
+    void teamLabelsGrowWithTheBoard()
+    {
+        QFETCH(QSize, size);
+        QFETCH(qreal, points);
+        std::unique_ptr<BoardUnderTest> board(newBoard(size));
+        for (ShadowLabel *label : {board->lblTeam[0], board->lblScore[0], board->lblTeam2[0], board->lblScore2[0]})
+            QCOMPARE(label->font().pointSizeF(), points);
+    }
+
     void backdropRunsBlackBlueBlack()
     {
         const QImage row = BackdropRow(800);

@@ -123,6 +123,18 @@ private slots:
         ForceGameMode(false);
     }
 
+    // With four columns or more a round has two daily doubles: the host
+    // sees both starred, and no other tile.
+    void bothDailyDoublesAreStarred()
+    {
+        program_->write(QStringLiteral("game.QZ2"), setText({"A", "B", "C", "D", "", ""}, {}, "F"));
+        startGame(2);
+        QVERIFY(state_.DailyDouble1 != state_.DailyDouble2);
+        for (int i = 0; i < 30; ++i)
+            QCOMPARE(button("cmdTile", i)->text().startsWith(QStringLiteral("\u2605")),
+                     i == state_.DailyDouble1 || i == state_.DailyDouble2);
+    }
+
     void boardTakesTheProjectorAndTheConsoleTheHostsScreen()
     {
         QScreen *laptop = QGuiApplication::screens().at(0), *projector = QGuiApplication::screens().at(1);

@@ -136,7 +136,7 @@ private slots:
         QCOMPARE(state().headerCaption[2], QStringLiteral("Lakes"));
         QCOMPARE(state().tileCaption[2], QStringLiteral("$200"));
         QCOMPARE(state().tileCaption[26], QStringLiteral("$1000"));
-        QCOMPARE(state().headerCaption[0], QString()); // round 1's title stays gone
+        QCOMPARE(state().headerTag[0], QString()); // round 1's exhausted title is not kept into round 2
         for (int row = 0; row < 5; ++row)
             playTile(row * 6 + 2);
 
@@ -597,6 +597,29 @@ private slots:
         QCOMPARE(view_->screenText, QStringLiteral("Answer"));
     }
 
+    // The end-round keys pressed while the end-of-round jingle plays move
+    // the game on once, not twice.
+    void endRoundKeyDuringTheJingleMovesOnOnce()
+    {
+        sound_->setClipLength(102, 3000);
+        start(setText({"Rivers", "", "", "", "", ""}, {"Lakes", "", "", "", "", ""}, "Seas"), 0);
+        for (int row = 0; row < 4; ++row)
+            playTile(row * 6);
+        bool pressed = false;
+        clock_->onAdvance = [&](int ms) {
+            sound_->advance(ms);
+            if (!pressed && played().contains(QStringLiteral("102"))) {
+                pressed = true;
+                QVERIFY(key('N', kAllThree));
+            }
+        };
+        playTile(24);
+        clock_->onAdvance = [this](int ms) { sound_->advance(ms); };
+        QVERIFY(pressed);
+        QCOMPARE(settings_.Round, qint16(2));
+        QCOMPARE(state().headerCaption[0], QStringLiteral("Lakes"));
+    }
+
     void endingTheBoardDuringTheThinkMusicStopsThere()
     {
         sound_->setClipLength(105, 30000);
@@ -618,6 +641,7 @@ private slots:
         QTest::addColumn<QString>("text");
         QTest::newRow("the worked example") << 3 << QList<int>{500, 900, -300}
                                             << "Team 2: $ 900  WINNER\r\nTeam 1: $ 500\r\nTeam 3: $ -300";
+        QTest::newRow("one team, no mark") << 1 << QList<int>{400} << "Team 1: $ 400";
         QTest::newRow("a tie on top") << 2 << QList<int>{700, 700} << "Team 2: $ 700  TIED\r\nTeam 1: $ 700";
         QTest::newRow("negatives rank low, millions grouped")
             << 3 << QList<int>{-100, 0, 1250000} << "Team 3: $ 1,250,000  WINNER\r\nTeam 2: $ 0\r\nTeam 1: $ -100";

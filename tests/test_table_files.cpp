@@ -387,6 +387,17 @@ private slots:
         writeOds(file, rowsXml);
         QCOMPARE(ImportQuestionTable(file, QString(), 20).error,
                  QStringLiteral("row 3 (\"1 | R1 Cat 0 | one two | r1c0 response 1\"), column C (Clue): a line break inside the text; a set holds every text on one line"));
+        // Blank cells repeated inside the rows keep the columns in place.
+        QString spaced;
+        for (const QStringList &r : rows) {
+            QString cells;
+            for (int c = 0; c < r.size(); ++c)
+                cells += (c == 2 ? QStringLiteral("<table:table-cell table:number-columns-repeated=\"2\"/>") : QString()) +
+                         QStringLiteral("<table:table-cell><text:p>%1</text:p></table:table-cell>").arg(r[c]);
+            spaced += QStringLiteral("<table:table-row>") + cells + QStringLiteral("</table:table-row>");
+        }
+        writeOds(file, spaced);
+        QCOMPARE(imported(file).Categories[0][0].Answer[4], QStringLiteral("r1c0 clue 4"));
         // A filled row repeated past any set's size stops at the limit.
         writeOds(file, odsRow(rows[0]) + QStringLiteral("<table:table-row table:number-rows-repeated=\"900000\">") +
                            odsRow(rows[1]).mid(17));

@@ -40,6 +40,8 @@ QuestionSet awkwardSet(int round2Categories)
     s.Categories[0][3].Question[4] = QStringLiteral("007");
     s.Categories[0][3].Answer[2] = QStringLiteral("1969");
     s.Categories[0][4].Picture[2] = QStringLiteral("maps/alps, west.png");
+    s.Categories[0][4].Answer[3] = QStringLiteral("He said \"hi\" and left"); // a quote, no comma
+    s.Categories[0][5].Answer[4] = QString(1999, QChar(u'\u00e9'));         // as long as a text may be
     s.Categories[2][0].Picture[0] = QStringLiteral("final.png");
     return s;
 }
