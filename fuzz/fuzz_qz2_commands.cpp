@@ -51,8 +51,12 @@ extern "C" int LLVMFuzzerInitialize(int *, char ***)
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    FuzzedDataProvider input(data, size);
-    const QString set = Fuzz::writeFile(QStringLiteral("set.QZ2"), Fuzz::shapedFile(input));
+    // Every key qz2 reads streams the whole file, and under the fuzzer's
+    // instrumentation each byte costs: a set's size is plenty here, and
+    // the reader's way with huge files has a target of its own.
+    if (size > 4096)
+        return 0;
+    const QString set = Fuzz::writeFile(QStringLiteral("set.QZ2"), QByteArray(reinterpret_cast<const char *>(data), qsizetype(size)));
     run({QStringLiteral("check"), set});
     const QString shown = run({QStringLiteral("show"), set});
     QJsonParseError error{};

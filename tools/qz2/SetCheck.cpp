@@ -51,9 +51,10 @@ void checkPicture(const QString &path, int round, int tile, SetReport &report)
         report.stayBehind << where + name +
                                  (QFileInfo(name).isAbsolute() ? QStringLiteral(" is named by an absolute path")
                                                                : QStringLiteral(" lies outside the set's folder"));
-    // As the largest screen shows it: what the game can show, qz2 passes.
+    // Read as the game reads it (a drawing drawn, a photo scaled down):
+    // what the game can show, qz2 passes.
     const QString file = GameReads::PicturePath(path, name);
-    const QString problem = ReadPictureFile(file, QSize(3840, 2160)).problem;
+    const QString problem = ReadPictureFile(file, QSize(1024, 768)).problem;
     if (!problem.isEmpty())
         report.pictures << where + file + QLatin1Char(' ') + problem;
 }
