@@ -117,6 +117,10 @@ public:
     // Names a team (0..9) for the rest of the run; empty gives "Team N" back.
     void setTeamName(int team, const QString &name);
 
+    // The response of the clue on the screen, at once: a team was judged
+    // right. Nothing while no clue shows.
+    void showResponse();
+
     void ShowAnswer(int index);
     void ShowQuestion(int index);
 

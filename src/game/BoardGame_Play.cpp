@@ -254,6 +254,17 @@ void BoardGame::ShowQuestion(int index)
     view_.showOnScreen(GameReads::Response(settings_.QuestionFile, settings_.Round, index));
 }
 
+void BoardGame::showResponse()
+{
+    const StepCode step = ParseStepCode(state_.stepCode);
+    if (view_.isUnloaded() || !state_.openTile || step.step != ClueStep::Clue)
+        return;
+    // The next press closes the screen only after the lock, as ever.
+    state_.LastClickTime = Clock::instance().now();
+    ShowQuestion(step.index);
+    setStepCode(ClueStep::Response);
+}
+
 void BoardGame::AnswerTimeout()
 {
     view_.stopAnswerTimer();
