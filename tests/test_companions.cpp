@@ -130,7 +130,7 @@ private slots:
         auto load = api<int32_t (*)(int32_t, int32_t *)>("PLOV_LoadSound");
         auto length = api<int32_t (*)(int32_t)>("PLOV_GetSoundLength");
         auto unload = api<void (*)(int32_t *)>("PLOV_UnloadSound");
-        for (int id = 101; id <= 108; ++id) {
+        for (int id = 101; id <= 109; ++id) {
             int32_t handle = 0;
             QCOMPARE(load(id, &handle), 0);
             QVERIFY(handle != 0);
@@ -144,7 +144,7 @@ private slots:
             QCOMPARE(handle, 0);
         }
         int32_t handle = 7;
-        QVERIFY(load(109, &handle) < 0);
+        QVERIFY(load(110, &handle) < 0);
         QCOMPARE(handle, 0);
     }
 

@@ -19,6 +19,7 @@
     extern "C" const unsigned char plovqsnd_clip##id##_end[];
 PLOV_CLIP(101) PLOV_CLIP(102) PLOV_CLIP(103) PLOV_CLIP(104)
 PLOV_CLIP(105) PLOV_CLIP(106) PLOV_CLIP(107) PLOV_CLIP(108)
+PLOV_CLIP(109)
 #undef PLOV_CLIP
 
 namespace {
@@ -79,6 +80,7 @@ constexpr Clip kClips[] = {
     {106, plovqsnd_clip106_start, plovqsnd_clip106_end},
     {107, plovqsnd_clip107_start, plovqsnd_clip107_end},
     {108, plovqsnd_clip108_start, plovqsnd_clip108_end},
+    {109, plovqsnd_clip109_start, plovqsnd_clip109_end},
 };
 
 // One audio device for the whole library; the mixer is shared with SDL's

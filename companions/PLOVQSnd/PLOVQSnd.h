@@ -20,7 +20,7 @@ extern "C" {
 // convenience and not needed by the audio back end.
 PLOVQSND_API int32_t PLOV_InitSound(uintptr_t window);
 
-// Prepares clip soundId (101..108) and stores its handle in *hSound.
+// Prepares clip soundId (101..109) and stores its handle in *hSound.
 // Returns 0 on success, negative on failure (not initialised, unknown id,
 // too many clips loaded).
 PLOVQSND_API int32_t PLOV_LoadSound(int32_t soundId, int32_t *hSound);
