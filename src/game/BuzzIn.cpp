@@ -6,6 +6,13 @@
 
 #include <algorithm>
 
+QColor TeamColor(int team)
+{
+    static const QRgb kColors[10] = {0xFF8C1A, 0x37E0FF, 0x8CFF3D, 0xFF5CA8, 0xC792FF,
+                                     0xFF5A5A, 0x3DFFB8, 0xFFC2A0, 0x8FB0FF, 0xE8FF5C};
+    return QColor(kColors[qBound(0, team, 9)]);
+}
+
 BuzzIn::BuzzIn(BoardGame &game, QObject *parent) : QObject(parent), game_(game)
 {
     // Polls for the lock's end only while a clue waits for it: the lock

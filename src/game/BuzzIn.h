@@ -8,6 +8,7 @@
 // keys, buzzer boxes, joysticks and phones all hand it a Buzz.
 #pragma once
 
+#include <QColor>
 #include <QList>
 #include <QObject>
 #include <QString>
@@ -17,6 +18,10 @@
 #include <optional>
 
 class BoardGame;
+
+// Each team's own colour, bright on the board's deep blue: its name when it
+// has the turn, on the board, the console and the phones.
+QColor TeamColor(int team);
 
 struct Buzz {
     int team = 0;        // 0..9
@@ -45,8 +50,11 @@ public:
     };
     // The buzzes of this clue in the order they were made.
     const QList<Entry> &order() const { return order_; }
-    // The team whose turn it is to answer.
+    // The first in order not judged wrong.
     std::optional<int> answering() const;
+    // The team whose turn it is to answer now: none once the clue is judged
+    // right, everyone is out or the response shows.
+    std::optional<int> hasTurn() const { return done_ ? std::nullopt : answering(); }
     // Judged wrong for this clue.
     bool out(int team) const { return out_[size_t(team)]; }
     // Locked out for buzzing early, until this moment (ms), else 0.

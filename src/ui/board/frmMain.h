@@ -13,6 +13,7 @@
 #include "board/BoardLayout.h"
 #include "game/BoardGame.h"
 #include "game/BoardView.h"
+#include "game/BuzzIn.h"
 #include "game/GameJournal.h"
 #include "platform/PictureBox.h"
 
@@ -69,6 +70,8 @@ public:
     // The rules of play, and the state of the round they keep.
     BoardGame &game() { return game_; }
     const BoardGame &game() const { return game_; }
+    // Who buzzed first on this board's clues.
+    BuzzIn &buzzIn() { return buzzIn_; }
 
     // The area the board lays out in (the centred 4:3 rectangle), in the
     // window's coordinates, and its size W x H.
@@ -93,6 +96,8 @@ protected:
     CaptionControl *vseTV = nullptr;
     ShadowLabel *lblCategory = nullptr;
     ShadowLabel *lblValue = nullptr;
+    // The name of the team that has the turn, large, in its own colour.
+    ShadowLabel *lblBuzz = nullptr;
     // Team names and scores on the board and, hidden until a zoom ends, on
     // the answer screen. Element 0 always exists.
     QList<ShadowLabel *> lblTeam, lblScore, lblTeam2, lblScore2;
@@ -158,6 +163,8 @@ private:
     void showStepCode();
     void showScore(int team);
     void showTeamName(int team);
+    void showBuzz();
+    void teamBuzzed(int team);
 
     // BoardView: what the rules ask of the board.
     void hideGrid() override;
@@ -196,6 +203,7 @@ private:
     GameState &state_;
     Libraries &libraries_;
     BoardGame game_{*this, state_, libraries_};
+    BuzzIn buzzIn_{game_};
     QWidget *area_ = nullptr;
     BoardGeometry geometry_;
     QImage banner_;

@@ -124,6 +124,9 @@ void frmMain::createAnswerScreen()
     lblValue->setObjectName(QStringLiteral("lblValue"));
     lblValue->setCaption(QStringLiteral("Value"));
     lblValue->hide();
+    lblBuzz = new ShadowLabel(vseTV);
+    lblBuzz->setObjectName(QStringLiteral("lblBuzz"));
+    lblBuzz->hide();
 }
 
 void frmMain::startSound()

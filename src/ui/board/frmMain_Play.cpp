@@ -9,6 +9,8 @@
 #include "board/AnimationGeometry.h"
 #include "board/TextFitting.h"
 #include "ui/controls/CaptionControl.h"
+#include "ui/controls/FormLook.h"
+#include "shell/Libraries.h"
 #include "platform/Clock.h"
 #include "platform/DigitRowKey.h"
 #include "platform/PictureFile.h"
@@ -72,6 +74,44 @@ void frmMain::watchGame()
     connect(&game_, &BoardGame::stepCodeChanged, this, &frmMain::showStepCode);
     connect(&game_, &BoardGame::scoreChanged, this, &frmMain::showScore);
     connect(&game_, &BoardGame::teamNameChanged, this, &frmMain::showTeamName);
+    connect(&buzzIn_, &BuzzIn::changed, this, &frmMain::showBuzz);
+    connect(&buzzIn_, &BuzzIn::turn, this, &frmMain::teamBuzzed);
+}
+
+void frmMain::teamBuzzed(int)
+{
+    showBuzz();
+    // On the screen before the sound: the class sees who was first at once.
+    lblBuzz->repaint();
+    libraries_.PlayGameSound(109, false);
+}
+
+void frmMain::showBuzz()
+{
+    const std::optional<int> turn = buzzIn_.hasTurn();
+    const QColor plain(Qt::white), out(112, 128, 160);
+    for (int k = 0; k < lblTeam.size(); ++k) {
+        const QColor c = turn == k ? TeamColor(k) : buzzIn_.out(k) ? out : plain;
+        lblTeam[k]->setColor(c);
+        lblTeam2[k]->setColor(c);
+        lblScore2[k]->setColor(c);
+    }
+    if (!turn) {
+        lblBuzz->hide();
+        return;
+    }
+    // Below the clue's box (which ends at seven eighths of the height), as
+    // large as the room needs, never wider than the screen.
+    const QSizeF screen = screenSize();
+    lblBuzz->setFont(ArialFont(qMax<qreal>(8, screen.height() * 0.075), true));
+    lblBuzz->setCaption(TeamName(*turn, state_.TeamNames[size_t(*turn)]));
+    lblBuzz->setColor(TeamColor(*turn));
+    while (lblBuzz->captionWidth() > 0.9 * screen.width() && lblBuzz->font().pointSizeF() > 8)
+        lblBuzz->setFontSize(lblBuzz->font().pointSizeF() * 0.9);
+    lblBuzz->fitSize();
+    lblBuzz->move(qRound((screen.width() - lblBuzz->width()) / 2), qRound(0.985 * screen.height()) - lblBuzz->height());
+    lblBuzz->show();
+    lblBuzz->raise();
 }
 
 void frmMain::keyPressEvent(QKeyEvent *event)

@@ -1,12 +1,15 @@
 #include "frmConsole.h"
 
 #include "game/BoardGame.h"
+#include "game/BuzzIn.h"
+#include "game/BuzzerInputs.h"
 #include "game/GameRules.h"
 #include "game/GameState.h"
 #include "platform/MsgBox.h"
 #include "questions/GameReads.h"
 #include "ui/board/frmMain.h"
 
+#include <QCheckBox>
 #include <QGridLayout>
 #include <QGuiApplication>
 #include <QLabel>
@@ -37,6 +40,11 @@ QPushButton[tile="double"] { background: #8a1020; color: #ffcc33; border-color: 
 QPushButton[tile="in"] { color: #ffcc33; font-weight: bold; }
 QPushButton#cmdNext { background: #2d8a3e; font-weight: bold; }
 QPushButton#cmdNext:disabled { background: #1b3d24; }
+QPushButton#cmdRight { background: #2d8a3e; font-weight: bold; }
+QPushButton#cmdWrong { background: #a8283a; font-weight: bold; }
+QPushButton#cmdRight:disabled, QPushButton#cmdWrong:disabled { background: #14224f; }
+QCheckBox { color: white; }
+QLabel#lblBuzzers { color: #ffcc33; font-weight: bold; }
 QLineEdit, QSpinBox { background: white; color: black; border-radius: 3px; padding: 2px; }
 )";
 
@@ -168,7 +176,117 @@ QWidget *frmConsole::createCluePanel()
     layout->addWidget(lblResponse, 1);
     layout->addWidget(lblWait);
     layout->addWidget(cmdNext);
+    layout->addWidget(createBuzzPanel());
     return panel;
+}
+
+QWidget *frmConsole::createBuzzPanel()
+{
+    auto *panel = new QWidget(this);
+    auto *layout = new QGridLayout(panel);
+    layout->setContentsMargins(0, 4, 0, 0);
+    chkBuzzIn = new QCheckBox(QStringLiteral("Buzz in"), panel);
+    chkBuzzIn->setObjectName(QStringLiteral("chkBuzzIn"));
+    chkBuzzIn->setFocusPolicy(Qt::NoFocus);
+    cmdBuzzers = named(new QPushButton(QStringLiteral("Buzzers\u2026"), panel), QStringLiteral("cmdBuzzers"));
+    lblBuzzers = new QLabel(panel);
+    lblBuzzers->setObjectName(QStringLiteral("lblBuzzers"));
+    cmdOpenBuzzers = named(new QPushButton(panel), QStringLiteral("cmdOpenBuzzers"));
+    lblOrder = new QLabel(panel);
+    lblOrder->setObjectName(QStringLiteral("lblOrder"));
+    lblOrder->setWordWrap(true);
+    lblOrder->setTextFormat(Qt::RichText);
+    cmdRight = named(new QPushButton(panel), QStringLiteral("cmdRight"));
+    cmdWrong = named(new QPushButton(panel), QStringLiteral("cmdWrong"));
+    connect(chkBuzzIn, &QCheckBox::toggled, this, [this](bool on) {
+        if (buzzers_)
+            buzzers_->setBuzzIn(on);
+    });
+    connect(cmdBuzzers, &QPushButton::clicked, this, [this] {
+        if (openBuzzersWindow_)
+            openBuzzersWindow_();
+    });
+    const auto judge = [this](bool (BuzzIn::*how)()) {
+        return [this, how] {
+            if (board_)
+                board_->run([this, how](BoardGame &) { (board_->buzzIn().*how)(); });
+            refresh();
+        };
+    };
+    connect(cmdOpenBuzzers, &QPushButton::clicked, this, [this] {
+        if (board_)
+            board_->buzzIn().toggleOpen();
+    });
+    connect(cmdRight, &QPushButton::clicked, this, judge(&BuzzIn::judgeRight));
+    connect(cmdWrong, &QPushButton::clicked, this, judge(&BuzzIn::judgeWrong));
+    layout->addWidget(chkBuzzIn, 0, 0);
+    layout->addWidget(cmdBuzzers, 0, 1);
+    layout->addWidget(lblBuzzers, 0, 2);
+    layout->addWidget(cmdOpenBuzzers, 0, 3);
+    layout->addWidget(lblOrder, 1, 0, 1, 4);
+    layout->addWidget(cmdRight, 2, 0, 1, 2);
+    layout->addWidget(cmdWrong, 2, 2, 1, 2);
+    layout->setColumnStretch(2, 1);
+    return panel;
+}
+
+void frmConsole::setBuzzers(BuzzerInputs *inputs, std::function<void()> openWindow)
+{
+    buzzers_ = inputs;
+    openBuzzersWindow_ = std::move(openWindow);
+    if (inputs)
+        connect(inputs, &BuzzerInputs::changed, this, &frmConsole::refresh);
+    refresh();
+}
+
+void frmConsole::refreshBuzz()
+{
+    const bool on = buzzers_ && buzzers_->settings().buzzIn;
+    if (chkBuzzIn->isChecked() != on) {
+        const QSignalBlocker quiet(chkBuzzIn);
+        chkBuzzIn->setChecked(on);
+    }
+    chkBuzzIn->setEnabled(buzzers_);
+    cmdBuzzers->setEnabled(buzzers_);
+    BuzzIn *buzz = board_ ? &board_->buzzIn() : nullptr;
+    const bool live = on && buzz && buzz->takesBuzzes();
+    lblBuzzers->setText(!on ? QStringLiteral("Buzzers off")
+                        : !live ? QString()
+                        : buzz->isOpen() ? QStringLiteral("Buzzers OPEN") : QStringLiteral("Buzzers closed"));
+    cmdOpenBuzzers->setText(live && buzz->isOpen() ? QStringLiteral("Close (Space)") : QStringLiteral("Open (Space)"));
+    cmdOpenBuzzers->setEnabled(live);
+    QStringList lines;
+    if (live) {
+        const QList<BuzzIn::Entry> &order = buzz->order();
+        for (qsizetype i = 0; i < order.size(); ++i) {
+            const int team = order[i].team;
+            QString line = QStringLiteral("<span style=\"color:%1\">%2</span>")
+                               .arg(TeamColor(team).name(), TeamName(team, state_.TeamNames[size_t(team)]).toHtmlEscaped());
+            if (i > 0)
+                line += QStringLiteral(" +%1 s").arg(double(order[i].ms - order[0].ms) / 1000.0, 0, 'f', 2);
+            if (buzz->out(team))
+                line += QStringLiteral(" (wrong)");
+            lines << QString::number(i + 1) + QStringLiteral(". ") + line;
+        }
+        QStringList early;
+        for (int t = 0; t < board_->game().state().Teams; ++t) {
+            if (buzz->earlyUntil(t) > 0 && !std::any_of(order.begin(), order.end(), [t](const BuzzIn::Entry &e) { return e.team == t; }))
+                early << TeamName(t, state_.TeamNames[size_t(t)]).toHtmlEscaped();
+        }
+        if (!early.isEmpty())
+            lines << QStringLiteral("Too early: ") + early.join(QStringLiteral(", "));
+    }
+    lblOrder->setText(lines.join(QStringLiteral("<br>")));
+    const std::optional<int> turn = live ? buzz->hasTurn() : std::nullopt;
+    const QString name = turn ? TeamName(*turn, state_.TeamNames[size_t(*turn)]) : QString();
+    cmdRight->setText(turn ? QStringLiteral("Right (+): ") + name : QStringLiteral("Right (+)"));
+    cmdWrong->setText(turn ? QStringLiteral("Wrong (\u2212): ") + name : QStringLiteral("Wrong (\u2212)"));
+    cmdRight->setEnabled(bool(turn));
+    cmdWrong->setEnabled(bool(turn));
+    cmdRight->setVisible(on);
+    cmdWrong->setVisible(on);
+    cmdOpenBuzzers->setVisible(on);
+    lblOrder->setVisible(on);
 }
 
 QWidget *frmConsole::createTeamPanel()
@@ -231,8 +349,10 @@ QWidget *frmConsole::createTeamPanel()
 
 void frmConsole::attach(frmMain *board)
 {
-    if (board_)
+    if (board_) {
         disconnect(&board_->game(), nullptr, this, nullptr);
+        disconnect(&board_->buzzIn(), nullptr, this, nullptr);
+    }
     board_ = board;
     valueShown_ = -1;
     if (board) {
@@ -245,6 +365,7 @@ void frmConsole::attach(frmMain *board)
             connect(&game, signal, this, &frmConsole::refresh);
         connect(&game, &BoardGame::thinkTimeStarted, this, &frmConsole::refresh);
         connect(&game, &BoardGame::gameEnded, this, [this] { attach(nullptr); });
+        connect(&board->buzzIn(), &BuzzIn::changed, this, &frmConsole::refresh);
         connect(board, &frmMain::unloaded, this, [this] { attach(nullptr); });
         tmrRefresh->start();
     } else {
@@ -335,6 +456,7 @@ void frmConsole::refresh()
         refreshClue(*game);
     }
     refreshTeams(game);
+    refreshBuzz();
 }
 
 void frmConsole::refreshGrid(const BoardGame &game)

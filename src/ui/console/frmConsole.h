@@ -14,6 +14,8 @@
 
 struct GameState;
 class BoardGame;
+class BuzzerInputs;
+class QCheckBox;
 class frmMain;
 class QLabel;
 class QLineEdit;
@@ -37,6 +39,10 @@ public:
     // Shows the console over the working area of a screen.
     void showOn(QScreen *screen);
 
+    // The room's buzzers: the console turns buzz-in on and off, opens the
+    // window that learns them, and judges the team that buzzed first.
+    void setBuzzers(BuzzerInputs *inputs, std::function<void()> openWindow);
+
     // Shows the game's state as it is now (also on every announcement and
     // on a timer for the seconds left).
     void refresh();
@@ -49,6 +55,8 @@ private:
     QWidget *createBoardGrid();
     QWidget *createCluePanel();
     QWidget *createTeamPanel();
+    QWidget *createBuzzPanel();
+    void refreshBuzz();
     void act(const std::function<void(BoardGame &)> &action);
     bool confirm(const QString &question);
     void pressTile(int tile);
@@ -80,4 +88,13 @@ private:
     std::array<QPushButton *, 10> cmdPlus{};
     std::array<QPushButton *, 10> cmdMinus{};
     QTimer *tmrRefresh = nullptr;
+    QCheckBox *chkBuzzIn = nullptr;
+    QPushButton *cmdBuzzers = nullptr;
+    QLabel *lblBuzzers = nullptr;
+    QPushButton *cmdOpenBuzzers = nullptr;
+    QLabel *lblOrder = nullptr;
+    QPushButton *cmdRight = nullptr;
+    QPushButton *cmdWrong = nullptr;
+    BuzzerInputs *buzzers_ = nullptr;
+    std::function<void()> openBuzzersWindow_;
 };

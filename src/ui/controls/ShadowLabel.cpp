@@ -43,6 +43,14 @@ void ShadowLabel::changeEvent(QEvent *event)
         fitSize();
 }
 
+void ShadowLabel::setColor(const QColor &color)
+{
+    if (color == color_)
+        return;
+    color_ = color;
+    update();
+}
+
 void ShadowLabel::paintEvent(QPaintEvent *)
 {
     QPainter p(this);

@@ -15,6 +15,8 @@ public:
     QString caption() const { return caption_; }
     void setCaption(const QString &caption);
     void setFontSize(qreal points);
+    QColor color() const { return color_; }
+    void setColor(const QColor &color);
     // The width the caption needs in the current font.
     int captionWidth() const;
     // Sized to the caption: its width, and one line of the font.

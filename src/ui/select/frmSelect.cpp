@@ -6,6 +6,7 @@
 #include "platform/clsShellFolders.h"
 #include "ui/controls/Backdrop.h"
 #include "ui/board/frmMain.h"
+#include "ui/buzzers/frmBuzzers.h"
 #include "ui/console/frmConsole.h"
 #include "ui/help/frmHowToPlay.h"
 #include "ui/editor/frmEditor.h"
@@ -22,6 +23,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QFontMetricsF>
 #include <QGuiApplication>
@@ -131,11 +133,36 @@ void frmSelect::createControls()
     cmbScore->addItems(kTeamCounts);
     createButtons();
     createMenus();
+    createBuzzerControls();
     // Keyboard order: the list first, then Start Game, then How To Play.
     setTabOrder(lstQuestions, cmdStart);
     setTabOrder(cmdStart, cmdHowToPlay);
     setTabOrder(cmdHowToPlay, cmdEditor);
     setTabOrder(cmdEditor, cmbScore);
+}
+
+void frmSelect::createBuzzerControls()
+{
+    chkBuzzIn = new QCheckBox(QStringLiteral("Buzz in"), this);
+    chkBuzzIn->setFont(ArialFont(9.75));
+    chkBuzzIn->setPalette(lblScore->palette());
+    chkBuzzIn->setChecked(buzzers_.settings().buzzIn);
+    connect(chkBuzzIn, &QCheckBox::toggled, &buzzers_, &BuzzerInputs::setBuzzIn);
+    connect(&buzzers_, &BuzzerInputs::changed, this, [this] { chkBuzzIn->setChecked(buzzers_.settings().buzzIn); });
+    cmdBuzzers = new QPushButton(QStringLiteral("Buzzers\u2026"), this);
+    cmdBuzzers->setFont(ArialFont(9.75));
+    connect(cmdBuzzers, &QPushButton::clicked, this, &frmSelect::openBuzzers);
+}
+
+void frmSelect::openBuzzers()
+{
+    if (!buzzersWindow_) {
+        buzzersWindow_ = new frmBuzzers(buzzers_, state_);
+        buzzersWindow_->setAttribute(Qt::WA_DeleteOnClose);
+    }
+    buzzersWindow_->show();
+    buzzersWindow_->raise();
+    buzzersWindow_->activateWindow();
 }
 
 void frmSelect::createButtons()
@@ -262,6 +289,7 @@ void frmSelect::openBoard(const BoardOpener &start)
         openConsole(false);
     frmMain *board = start(twoScreens ? hostScreen : nullptr, [this](frmMain *loaded) {
         journal_.watch(loaded->game());
+        buzzers_.attach(&loaded->buzzIn());
         if (console_)
             console_->attach(loaded);
     });
@@ -293,8 +321,10 @@ bool frmSelect::offerResume()
 void frmSelect::openConsole(bool byHand)
 {
     consoleByHand_ = consoleByHand_ || byHand;
-    if (!console_)
+    if (!console_) {
         console_ = new frmConsole(state_);
+        console_->setBuzzers(&buzzers_, [this] { openBuzzers(); });
+    }
     if (byHand) {
         console_->show();
         console_->raise();
@@ -359,6 +389,12 @@ void frmSelect::layOut()
     lstQuestions->setGeometry(l.list.toRect());
     lblScore->setGeometry(l.scoreLabel.toRect());
     cmbScore->setGeometry(l.scoreCombo.toRect());
+    // Buzz-in beside the team count, as far as the list reaches.
+    const QRect combo = cmbScore->geometry();
+    const int button = QFontMetrics(cmdBuzzers->font()).horizontalAdvance(cmdBuzzers->text()) + 24;
+    cmdBuzzers->setGeometry(l.list.toRect().right() - button + 1, combo.y(), button, combo.height());
+    const int check = chkBuzzIn->sizeHint().width();
+    chkBuzzIn->setGeometry(cmdBuzzers->x() - 12 - check, combo.y(), check, combo.height());
     // The two button bars stay transparent: the backdrop shows through.
     vseButtons->setGeometry(l.buttons.toRect());
     vseButtons->refresh();

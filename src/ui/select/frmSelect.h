@@ -2,8 +2,10 @@
 // way to the game, the editor and the help. Closing it ends the program.
 #pragma once
 
+#include "game/BuzzerInputs.h"
 #include "game/GameJournal.h"
 #include "ui/board/frmMain.h"
+#include "ui/buzzers/frmBuzzers.h"
 #include "ui/console/frmConsole.h"
 #include "platform/PictureBox.h"
 #include "select/QuestionSetList.h"
@@ -16,7 +18,9 @@
 
 class CaptionControl;
 class CommandButton;
+class QCheckBox;
 class QComboBox;
+class QPushButton;
 class QLabel;
 class QListWidget;
 class QListWidgetItem;
@@ -42,6 +46,9 @@ public:
     QListWidget *lstQuestions = nullptr;
     QLabel *lblScore = nullptr;
     QComboBox *cmbScore = nullptr;
+    // Beyond the team count: buzz-in on or off, and the buzzers learned.
+    QCheckBox *chkBuzzIn = nullptr;
+    QPushButton *cmdBuzzers = nullptr;
     CaptionControl *vseButtons = nullptr;
     CommandButton *cmdStart = nullptr;
     CommandButton *cmdEditor = nullptr;
@@ -86,6 +93,10 @@ public:
 
     // The host's console, once opened (for tests).
     frmConsole *console() const { return console_; }
+    // The room's buzzers, and the window that learns them.
+    BuzzerInputs &buzzers() { return buzzers_; }
+    void openBuzzers();
+    frmBuzzers *buzzersWindow() const { return buzzersWindow_; }
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -97,6 +108,7 @@ private:
     void createControls();
     void createButtons();
     void createMenus();
+    void createBuzzerControls();
     void editorClosed();
     void layOut();
     QString documentsFolder() const;
@@ -127,6 +139,8 @@ private:
     QPointer<frmConsole> console_;
     bool consoleByHand_ = false;
     GameJournal journal_;
+    BuzzerInputs buzzers_;
+    QPointer<frmBuzzers> buzzersWindow_;
     std::function<SetListing()> ahead_;
     QList<UncheckedFolder> unchecked_;
     std::unique_ptr<QThread> checker_;
