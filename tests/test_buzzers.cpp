@@ -11,14 +11,48 @@
 #include "ScriptedMsgBox.h"
 #include "TestSets.h"
 
+#include "TestFolder.h"
+
 #include "game/BoardGame.h"
 #include "game/BuzzIn.h"
+#include "game/BuzzerInputs.h"
+#include "game/GameJournal.h"
 #include "game/GameState.h"
+#include "platform/JoystickReader.h"
+#include "platform/SpecialFolders.h"
 #include "shell/Libraries.h"
+#include "ui/board/frmMain.h"
+#include "ui/controls/CommandButton.h"
+#include "ui/controls/ShadowLabel.h"
+#include "ui/select/frmSelect.h"
 
+#include <QCheckBox>
+#include <QComboBox>
+#include <QListWidget>
 #include <QSignalSpy>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QtTest>
+
+#include <SDL2/SDL.h>
+
+namespace {
+
+// A key as a buzzer box or the host types it, made at ms on the window
+// system's clock.
+void press(QObject *to, int key, ulong ms, quint32 scanCode = 0)
+{
+    QKeyEvent e(QEvent::KeyPress, key, Qt::NoModifier, scanCode, 0, 0);
+    e.setTimestamp(ms);
+    QCoreApplication::sendEvent(to, &e);
+}
+
+QString settingsFile()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) + QStringLiteral("/settings.ini");
+}
+
+} // namespace
 
 class TestBuzzers : public QObject {
     Q_OBJECT
@@ -84,6 +118,7 @@ private slots:
     {
         buzzIn_.reset();
         game_.reset();
+        QFile::remove(settingsFile());
         view_.reset();
         sound_.reset();
         boxes_.reset();
@@ -228,6 +263,148 @@ private slots:
         QVERIFY(!buzzIn_->takesBuzzes() && !buzzIn_->isOpen() && buzzIn_->order().isEmpty());
         QVERIFY(!buzzIn_->judgeRight() && !buzzIn_->judgeWrong());
         QCOMPARE(settings_.Scores[0], 0);
+    }
+
+    // ---------------------------------------------------------- the buzzers
+
+    void oneClickSkipsBouncesAndChatter_data()
+    {
+        QTest::addColumn<QList<int>>("changes"); // ms, a press (positive) or release (negative) at that time
+        QTest::addColumn<int>("counted");
+        QTest::newRow("a press and its bounces") << QList<int>{100, -103, 105, -300} << 1;
+        QTest::newRow("two presses far apart") << QList<int>{100, -200, 400, -500} << 2;
+        QTest::newRow("a button that chatters") << QList<int>{100, -120, 140, -160, 180, -200, 220} << 1;
+        QTest::newRow("held down") << QList<int>{100, 150, 200} << 1;
+    }
+    void oneClickSkipsBouncesAndChatter()
+    {
+        QFETCH(QList<int>, changes);
+        QFETCH(int, counted);
+        ButtonDebounce debounce;
+        int presses = 0;
+        for (int c : changes)
+            presses += debounce.change(QStringLiteral("pad#1"), 3, c > 0, qAbs(c)) ? 1 : 0;
+        QCOMPARE(presses, counted);
+    }
+
+    // A whole clue with buzzer-box keys, through the home screen, the board
+    // and its answer screen: learned, turned on, buzzed the wrong way
+    // round, judged with the keys.
+    void keysLearnedOnTheHomeScreenBuzzOnTheBoard()
+    {
+        TestFolder program;
+        ForceGameMode(true); // in this program folder: sounds are heard
+        program.write(QStringLiteral("game.QZ2"), setText({"A", "B", "C", "D", "", ""}, {}, "F"));
+        QTemporaryDir documents;
+        SpecialFolders::overridePath(SpecialFolders::kDocuments, documents.path());
+        QFile::remove(GameJournal::defaultPath());
+        auto home = std::make_unique<frmSelect>(settings_, libraries_);
+        QVERIFY(!QFile::exists(settingsFile())); // nothing kept for a host who uses none of it
+        BuzzerInputs &inputs = home->buzzers();
+        QSignalSpy refused(&inputs, &BuzzerInputs::refused);
+        inputs.learn(0);
+        press(home.get(), Qt::Key_5, 1); // a scoring key: not a buzzer
+        QCOMPARE(refused.size(), 1);
+        QCOMPARE(inputs.learning(), 0);
+        // Ten buzzers, one a team: F3 to F12 on their physical keys.
+        for (int team = 0; team < 10; ++team) {
+            if (team > 0)
+                inputs.learn(team);
+            press(home.get(), Qt::Key_F3 + team, 2, quint32(69 + team));
+            QCOMPARE(inputs.learning(), -1);
+        }
+        home->chkBuzzIn->setChecked(true);
+        const BuzzerSettings kept = BuzzerSettings::load();
+        QVERIFY(kept.buzzIn);
+        QCOMPARE(kept.teams[2].describe(), QStringLiteral("key F5"));
+        for (int team = 0; team < 10; ++team)
+            QVERIFY(kept.teams[size_t(team)].sameAs(inputs.settings().teams[size_t(team)]));
+
+        home->cmbScore->setCurrentIndex(3);
+        home->lstQuestions->setCurrentRow(0);
+        home->cmdStart->click();
+        frmMain *board = home->board();
+        QVERIFY(board);
+        int tile = 0;
+        while (tile == settings_.DailyDouble1 || tile == settings_.DailyDouble2)
+            ++tile;
+        board->run([tile](BoardGame &g) { g.TilePress(tile, true, false); });
+        clock_->advance(3000);
+        board->buzzIn().tick();
+        QVERIFY(board->buzzIn().isOpen());
+        clock_->advance(500);
+        QSignalSpy turn(&board->buzzIn(), &BuzzIn::turn);
+        press(board, Qt::Key_F4, 1001, 70); // team 2, a millisecond after
+        press(board, Qt::Key_F3, 1000, 69); // team 1, handed over second
+        QCOMPARE(board->buzzIn().answering(), std::optional<int>(0));
+        const ShadowLabel *name = board->findChild<ShadowLabel *>(QStringLiteral("lblBuzz"));
+        QVERIFY(name->isVisible());
+        QCOMPARE(name->caption(), QStringLiteral("Team 1"));
+        QCOMPARE(name->color(), TeamColor(0));
+        QVERIFY(sound_->played().contains(QStringLiteral("109")));
+        const int value = board->game().state().CurrentValue;
+        press(board, Qt::Key_Minus, 1100);
+        QCOMPARE(settings_.Scores[0], -value);
+        QCOMPARE(name->caption(), QStringLiteral("Team 2"));
+        QCOMPARE(board->findChild<ShadowLabel *>(QStringLiteral("lblTeam2(0)"))->color(), QColor(112, 128, 160));
+        press(board, Qt::Key_Plus, 1200);
+        QCOMPARE(settings_.Scores[1], value);
+        QCOMPARE(board->game().openClue().step, ClueStep::Response);
+        QVERIFY(!name->isVisible());
+        // Off, the same keys are nothing to the game.
+        home->chkBuzzIn->setChecked(false);
+        QVERIFY(!board->buzzIn().enabled());
+        delete board;
+        home.reset();
+        SpecialFolders::overridePath(SpecialFolders::kDocuments, QString());
+    }
+
+    // A joystick, through SDL's own virtual device: learned by a press,
+    // unplugged, plugged in again, and still that team's buzzer.
+    void aJoystickPluggedInAgainStillBuzzes()
+    {
+        openClue();
+        BuzzerInputs inputs;
+        inputs.attach(buzzIn_.get());
+        QSignalSpy learned(&inputs, &BuzzerInputs::learned);
+        inputs.learn(2); // starts the reader
+        if (!inputs.joysticksAvailable())
+            QSKIP("SDL2 cannot be loaded here");
+        QCOMPARE(SDL_InitSubSystem(SDL_INIT_JOYSTICK), 0);
+        auto plugIn = [] {
+            const int index = SDL_JoystickAttachVirtual(SDL_JOYSTICK_TYPE_ARCADE_STICK, 0, 12, 0);
+            return index >= 0 ? SDL_JoystickOpen(index) : nullptr;
+        };
+        auto unplug = [](SDL_Joystick *pad) {
+            const SDL_JoystickID id = SDL_JoystickInstanceID(pad);
+            for (int i = 0; i < SDL_NumJoysticks(); ++i) {
+                if (SDL_JoystickGetDeviceInstanceID(i) == id)
+                    SDL_JoystickDetachVirtual(i);
+            }
+            SDL_JoystickClose(pad);
+        };
+        SDL_Joystick *pad = plugIn();
+        QVERIFY(pad);
+        QSignalSpy devices(&inputs, &BuzzerInputs::changed);
+        QTRY_VERIFY_WITH_TIMEOUT(inputs.joysticks().size() == 1, 5000);
+        SDL_JoystickSetVirtualButton(pad, 7, 1);
+        QVERIFY(learned.wait(5000));
+        QCOMPARE(inputs.settings().teams[2].kind, BuzzerInput::Button);
+        QCOMPARE(inputs.settings().teams[2].button, 7);
+        SDL_JoystickSetVirtualButton(pad, 7, 0);
+        inputs.setBuzzIn(true);
+        unplug(pad);
+        QTRY_VERIFY_WITH_TIMEOUT(inputs.joysticks().isEmpty(), 5000);
+        pad = plugIn();
+        QTRY_VERIFY_WITH_TIMEOUT(inputs.joysticks().size() == 1, 5000);
+        waitForTheLock();
+        clock_->advance(1000);
+        SDL_JoystickSetVirtualButton(pad, 7, 1);
+        QTRY_VERIFY_WITH_TIMEOUT(!buzzIn_->order().isEmpty(), 5000);
+        QCOMPARE(buzzIn_->answering(), std::optional<int>(2));
+        unplug(pad);
+        inputs.setBuzzIn(false);
+        SDL_QuitSubSystem(SDL_INIT_JOYSTICK);
     }
 };
 

@@ -112,6 +112,8 @@ void BuzzerInputs::setBuzzIn(bool on)
     if (buzzIn_)
         buzzIn_->setEnabled(on);
     updateListening();
+    if (!on && learning_ < 0)
+        reader_.stop();
     emit changed();
 }
 
@@ -126,6 +128,8 @@ void BuzzerInputs::learn(int team)
 {
     learning_ = team >= 0 && team < 10 ? team : -1;
     updateListening();
+    if (learning_ < 0 && !settings_.buzzIn)
+        reader_.stop();
     emit changed();
 }
 
@@ -153,10 +157,10 @@ void BuzzerInputs::updateListening()
         listen ? QCoreApplication::instance()->installEventFilter(this)
                : QCoreApplication::instance()->removeEventFilter(this);
     }
+    // A buzzer just learned is about to be used: the reader, once started,
+    // stays until buzz-in is turned off or the learning is given up.
     if (listen)
         reader_.start();
-    else
-        reader_.stop();
 }
 
 bool BuzzerInputs::eventFilter(QObject *watched, QEvent *event)

@@ -46,6 +46,8 @@ struct JoystickReader::Sdl {
     decltype(&SDL_JoystickGetGUID) JoystickGetGUID = nullptr;
     decltype(&SDL_JoystickGetGUIDString) JoystickGetGUIDString = nullptr;
     decltype(&SDL_JoystickName) JoystickName = nullptr;
+    decltype(&SDL_NumJoysticks) NumJoysticks = nullptr;
+    decltype(&SDL_JoystickGetDeviceInstanceID) JoystickGetDeviceInstanceID = nullptr;
 
     template <typename F> bool find(const char *name, F &f)
     {
@@ -63,7 +65,9 @@ struct JoystickReader::Sdl {
                find("SDL_GameControllerClose", GameControllerClose) && find("SDL_JoystickOpen", JoystickOpen) &&
                find("SDL_JoystickClose", JoystickClose) && find("SDL_JoystickInstanceID", JoystickInstanceID) &&
                find("SDL_JoystickGetGUID", JoystickGetGUID) &&
-               find("SDL_JoystickGetGUIDString", JoystickGetGUIDString) && find("SDL_JoystickName", JoystickName);
+               find("SDL_JoystickGetGUIDString", JoystickGetGUIDString) && find("SDL_JoystickName", JoystickName) &&
+               find("SDL_NumJoysticks", NumJoysticks) &&
+               find("SDL_JoystickGetDeviceInstanceID", JoystickGetDeviceInstanceID);
     }
 };
 
@@ -139,6 +143,8 @@ void JoystickReader::run()
         QMetaObject::invokeMethod(this, [this, names] { emit devicesChanged(names); }, Qt::QueuedConnection);
     };
     const auto open = [&](int index) {
+        if (devices.contains(sdl.JoystickGetDeviceInstanceID(index)))
+            return; // met already, when the reader started
         Device d;
         if (sdl.IsGameController(index)) {
             d.controller = sdl.GameControllerOpen(index);
@@ -162,6 +168,10 @@ void JoystickReader::run()
         devices.insert(sdl.JoystickInstanceID(d.joystick), d);
         announce();
     };
+    // Devices already known to SDL (another part of the program keeps its
+    // joysticks started) announce no arrival: they are met here.
+    for (int i = 0; i < sdl.NumJoysticks(); ++i)
+        open(i);
     SDL_Event events[64];
     while (!stopping_) {
         sdl.PumpEvents();
@@ -201,8 +211,10 @@ void JoystickReader::run()
                 }
             }
         }
-        // Anything else SDL made meanwhile is not ours to keep.
-        sdl.FlushEvents(SDL_FIRSTEVENT, SDL_LASTEVENT);
+        // Anything else SDL made meanwhile is not ours to keep; a device's
+        // event that came after the read above waits for the next round.
+        sdl.FlushEvents(SDL_FIRSTEVENT, SDL_JOYAXISMOTION - 1);
+        sdl.FlushEvents(SDL_CONTROLLERDEVICEREMAPPED + 1, SDL_LASTEVENT);
         std::this_thread::sleep_for(std::chrono::milliseconds(kPollMs));
     }
     for (const Device &d : devices)
