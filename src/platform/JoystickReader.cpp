@@ -108,6 +108,15 @@ bool JoystickReader::start()
         }
         sdl_ = std::move(sdl);
     }
+    // SDL starts and ends its parts on one thread only: the game's, where
+    // the sound library starts its sound. No window of SDL's own has the
+    // focus: presses count all the same; the game keeps its own signals.
+    sdl_->SetHint(SDL_HINT_JOYSTICK_ALLOW_BACKGROUND_EVENTS, "1");
+    sdl_->SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
+    if (sdl_->InitSubSystem(SDL_INIT_JOYSTICK | SDL_INIT_GAMECONTROLLER) != 0) {
+        why_ = QStringLiteral("SDL2 could not start its joysticks");
+        return false;
+    }
     stopping_ = false;
     running_ = true;
     thread_ = std::thread([this] { run(); });
@@ -120,18 +129,13 @@ void JoystickReader::stop()
         return;
     stopping_ = true;
     thread_.join();
+    sdl_->QuitSubSystem(SDL_INIT_JOYSTICK | SDL_INIT_GAMECONTROLLER);
     running_ = false;
 }
 
 void JoystickReader::run()
 {
     Sdl &sdl = *sdl_;
-    // No window of SDL's own has the focus: presses count all the same. The
-    // game keeps its own signal handlers.
-    sdl.SetHint(SDL_HINT_JOYSTICK_ALLOW_BACKGROUND_EVENTS, "1");
-    sdl.SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
-    if (sdl.InitSubSystem(SDL_INIT_JOYSTICK | SDL_INIT_GAMECONTROLLER) != 0)
-        return;
     // SDL's ticks and the steady clock, a fixed distance apart.
     const qint64 offset = steadyNowMs() - qint64(sdl.GetTicks());
     QMap<SDL_JoystickID, Device> devices;
@@ -219,5 +223,4 @@ void JoystickReader::run()
     }
     for (const Device &d : devices)
         d.controller ? sdl.GameControllerClose(d.controller) : sdl.JoystickClose(d.joystick);
-    sdl.QuitSubSystem(SDL_INIT_JOYSTICK | SDL_INIT_GAMECONTROLLER);
 }

@@ -9,8 +9,15 @@
 //                                          then the projector's)
 //   shoot editor OUT.png [WIDTHxHEIGHT]    the editor on the picture sample
 //                                          set, maximized on the laptop
+//   shoot buzz OUT [WIDTHxHEIGHT]          buzz-in: four teams buzzed, two
+//                                          judged wrong; OUT-board.png (the
+//                                          projector, of the laptop's size)
+//                                          and OUT-console.png
 
+#include "game/BuzzIn.h"
+#include "game/BuzzerInputs.h"
 #include "game/GameState.h"
+#include "platform/Clock.h"
 #include "platform/ModuleFileName.h"
 #include "shell/Libraries.h"
 #include "ui/board/frmMain.h"
@@ -22,6 +29,7 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QComboBox>
 #include <QListWidget>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -52,23 +60,56 @@ T *find()
     return nullptr;
 }
 
+// Four teams buzz on a clue of General Knowledge; the first two are judged
+// wrong, and the third has the turn.
+int shootBuzz(frmSelect *home, GameState &state, const QString &out)
+{
+    home->buzzers().setBuzzIn(true);
+    home->cmbScore->setCurrentIndex(4);
+    home->lstQuestions->setCurrentItem(home->lstQuestions->findItems(QStringLiteral("General"), Qt::MatchStartsWith).value(0));
+    home->cmdStart->click();
+    frmConsole *console = home->console();
+    frmMain *board = home->board();
+    if (!console || !board)
+        return 1;
+    int tile = 13;
+    while (tile == state.DailyDouble1 || tile == state.DailyDouble2)
+        ++tile;
+    console->findChild<QPushButton *>(QStringLiteral("cmdTile(%1)").arg(tile))->click();
+    BuzzIn &buzz = board->buzzIn();
+    if (!buzz.isOpen())
+        buzz.toggleOpen();
+    const qint64 t = Clock::instance().steadyMs() + 400;
+    for (auto [team, ms] : {std::pair{0, 0}, std::pair{1, 120}, std::pair{2, 310}, std::pair{3, 550}})
+        buzz.buzz({team, QStringLiteral("key"), t + ms});
+    buzz.judgeWrong();
+    buzz.judgeWrong();
+    QApplication::processEvents();
+    const bool saved = board->grab().save(out + QStringLiteral("-board.png")) &&
+                       console->grab().save(out + QStringLiteral("-console.png"));
+    delete board;
+    delete home;
+    return saved ? 0 : 1;
+}
+
 } // namespace
 
 int main(int argc, char **argv)
 {
     const QString what = QString::fromLocal8Bit(argc > 1 ? argv[1] : "");
     if (argc < 3 || (what != QStringLiteral("console") && what != QStringLiteral("picture") &&
-                     what != QStringLiteral("editor"))) {
-        fprintf(stderr, "usage: shoot console|picture|editor OUT.png [WIDTHxHEIGHT]\n");
+                     what != QStringLiteral("editor") && what != QStringLiteral("buzz"))) {
+        fprintf(stderr, "usage: shoot console|picture|editor|buzz OUT.png [WIDTHxHEIGHT]\n");
         return 2;
     }
-    const bool picture = what == QStringLiteral("picture");
+    const bool picture = what == QStringLiteral("picture") || what == QStringLiteral("buzz");
     const QStringList size = QString::fromLocal8Bit(argc > 3 ? argv[3] : "1366x768").split(QLatin1Char('x'));
     QTemporaryDir work;
     // A user of its own: no game left behind by an earlier shot comes back
     // to be resumed, and nothing is left behind for the next.
     qputenv("XDG_DATA_HOME", work.path().toLocal8Bit());
     qputenv("XDG_CACHE_HOME", work.path().toLocal8Bit());
+    qputenv("XDG_CONFIG_HOME", work.path().toLocal8Bit());
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" +
                                    screensConfig(work.path(), size.value(0).toInt(), size.value(1).toInt(),
                                                  picture ? QSize(size.value(0).toInt(), size.value(1).toInt())
@@ -87,9 +128,11 @@ int main(int argc, char **argv)
 
     GameState state;
     Libraries libraries;
-    state.TeamNames = {QStringLiteral("Owls"), QStringLiteral("Foxes"), QStringLiteral("Badgers")};
+    state.TeamNames = {QStringLiteral("Owls"), QStringLiteral("Foxes"), QStringLiteral("Badgers"), QStringLiteral("Hawks")};
     basPLOVQuzr::Main(state, libraries);
     frmSelect *home = find<frmSelect>();
+    if (what == QStringLiteral("buzz"))
+        return shootBuzz(home, state, QString::fromLocal8Bit(argv[2]));
     const QList<QListWidgetItem *> sets = home->lstQuestions->findItems(
         picture ? QStringLiteral("Pictures") : QStringLiteral("World Geography"), Qt::MatchStartsWith);
     home->lstQuestions->setCurrentItem(sets.value(0));
