@@ -41,6 +41,8 @@ struct BoardState {
     std::optional<int> openTile;
     // When the final's think music ends (Clock::now seconds); 0 when none.
     qint64 thinkEnds = 0;
+    // Whether the final's think music was heard (none without sound).
+    bool thinkMusicPlayed = false;
     // Every change of a score since the game started, the last one last:
     // the team (0..9) and the amount added.
     std::vector<std::pair<int, qint32>> scoreHistory;

@@ -211,6 +211,7 @@ void BoardGame::showFinalClue()
     ShowAnswer(-1);
     // The think music is the think time; presses meanwhile find "NO".
     if (libraries_.soundsHeard()) {
+        state_.thinkMusicPlayed = true;
         state_.thinkEnds = Clock::instance().now() + (kThinkMusicMs + 999) / 1000;
         emit thinkTimeStarted(kThinkMusicMs);
     }
