@@ -357,6 +357,8 @@ private slots:
         QTest::newRow("team 10") << QByteArray(R"({"type":"join","room":"ABCD","team":10,"name":"x"})") << false;
         QTest::newRow("a team of 1.5") << QByteArray(R"({"type":"join","room":"ABCD","team":1.5,"name":"x"})") << false;
         QTest::newRow("a name of 21") << QByteArray(R"({"type":"join","room":"ABCD","team":1,"name":"123456789012345678901"})") << false;
+        QTest::newRow("a name with emoji") << QByteArray(R"({"type":"join","room":"ABCD","team":1,"name":"Ana \ud83e\udd81\u200d"})") << true;
+        QTest::newRow("a name turned around") << QByteArray(R"({"type":"join","room":"ABCD","team":1,"name":"Ana\u202e"})") << false;
         QTest::newRow("a name with a line break") << QByteArray(R"({"type":"join","room":"ABCD","team":1,"name":"a\nb"})") << false;
         QTest::newRow("a short token") << QByteArray(R"({"type":"hello","token":"abc"})") << false;
         QTest::newRow("a negative wager") << QByteArray(R"({"type":"wager","amount":-5})") << false;

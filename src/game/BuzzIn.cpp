@@ -141,6 +141,7 @@ bool BuzzIn::judgeRight()
     if (!clueTakesBuzzes_ || done_ || !team)
         return false;
     game_.addToScore(*team, game_.state().CurrentValue);
+    emit judged(*team, true);
     done_ = true;
     open_ = false;
     // The clue goes on to its response, as a press on the screen would.
@@ -155,6 +156,7 @@ bool BuzzIn::judgeWrong()
     if (!clueTakesBuzzes_ || done_ || !team)
         return false;
     game_.addToScore(*team, -game_.state().CurrentValue);
+    emit judged(*team, false);
     out_[size_t(*team)] = true;
     bool anyLeft = false;
     for (int t = 0; t < teams(); ++t)

@@ -76,6 +76,8 @@ signals:
     // A team has the turn: the board shows its name and sounds the buzz.
     void turn(int team);
     void earlyBuzz(int team);
+    // The host judged a team's answer.
+    void judged(int team, bool right);
 
 private:
     void clueChanged();

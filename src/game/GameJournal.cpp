@@ -131,6 +131,30 @@ bool readNumbers(const QJsonObject &o, JournalRecord &r)
     return o[QStringLiteral("history")].isArray();
 }
 
+// The phones' room, when there is one: a code of four capitals, a port, and
+// at most a room's players, each with a token, a team and a name.
+bool readPhones(const QJsonValue &v, JournalRecord &r)
+{
+    if (v.isUndefined())
+        return true;
+    const QJsonObject o = v.toObject();
+    const QString room = o[QStringLiteral("room")].toString();
+    const auto port = number(o[QStringLiteral("port")], 1, 65535);
+    const QJsonArray players = o[QStringLiteral("players")].toArray();
+    if (!v.isObject() || room.size() != 4 || !port || players.size() > PlayersRoom::kMostPlayers)
+        return false;
+    r.room = room;
+    r.port = quint16(*port);
+    for (const QJsonValue &p : players) {
+        const QString token = p[QStringLiteral("token")].toString(), name = p[QStringLiteral("name")].toString();
+        const auto team = number(p[QStringLiteral("team")], 0, 9);
+        if (token.size() != 32 || !team || name.isEmpty() || name.size() > 40)
+            return false;
+        r.players.append({token, int(*team), name});
+    }
+    return true;
+}
+
 } // namespace
 
 QByteArray WriteJournal(const JournalRecord &r)
@@ -157,7 +181,17 @@ QByteArray WriteJournal(const JournalRecord &r)
         {QStringLiteral("names"), texts(r.names)},
         {QStringLiteral("history"), history},
     };
-    return SealJournal(QJsonDocument(o).toJson(QJsonDocument::Compact));
+    QJsonObject written = o;
+    if (!r.room.isEmpty()) {
+        QJsonArray players;
+        for (const PhonePlayer &p : r.players)
+            players.append(QJsonObject{{QStringLiteral("token"), p.token}, {QStringLiteral("team"), p.team},
+                                       {QStringLiteral("name"), p.name}});
+        written.insert(QStringLiteral("phones"), QJsonObject{{QStringLiteral("room"), r.room},
+                                                            {QStringLiteral("port"), r.port},
+                                                            {QStringLiteral("players"), players}});
+    }
+    return SealJournal(QJsonDocument(written).toJson(QJsonDocument::Compact));
 }
 
 QByteArray SealJournal(const QByteArray &json)
@@ -191,7 +225,7 @@ std::optional<JournalRecord> ReadJournal(const QByteArray &bytes)
         !readTexts(o[QStringLiteral("headers")], r.headerCaption) ||
         !readTexts(o[QStringLiteral("hiddenHeaders")], r.headerTag) || !readTexts(o[QStringLiteral("names")], r.names))
         return std::nullopt;
-    if (!tilesAgree(r) || !scoresAgree(r))
+    if (!tilesAgree(r) || !scoresAgree(r) || !readPhones(o[QStringLiteral("phones")], r))
         return std::nullopt;
     return r;
 }
@@ -242,6 +276,19 @@ JournalRecord CaptureJournal(const BoardGame &game)
     return r;
 }
 
+namespace {
+
+void addRoom(JournalRecord &r, const PlayersRoom *room)
+{
+    if (!room)
+        return;
+    r.room = room->code();
+    r.port = room->port();
+    r.players = room->players();
+}
+
+} // namespace
+
 GameJournal::GameJournal(QString path, QObject *parent) : QObject(parent), path_(std::move(path)) {}
 
 QString GameJournal::defaultPath()
@@ -265,6 +312,16 @@ void GameJournal::watch(BoardGame &game)
     });
 }
 
+void GameJournal::watchRoom(const PlayersRoom *room)
+{
+    if (room_)
+        disconnect(room_, nullptr, this, nullptr);
+    room_ = room;
+    if (room)
+        connect(room, &PlayersRoom::changed, this, &GameJournal::changed);
+    changed();
+}
+
 void GameJournal::changed()
 {
     // One write for all the changes of one event: a new round changes
@@ -281,7 +338,9 @@ void GameJournal::writeNow()
     if (!game_ || game_->settings().Round > 3)
         return;
     QDir().mkpath(QFileInfo(path_).absolutePath());
-    if (const FileError e = WriteFileReplacing(path_, WriteJournal(CaptureJournal(*game_))))
+    JournalRecord record = CaptureJournal(*game_);
+    addRoom(record, room_);
+    if (const FileError e = WriteFileReplacing(path_, WriteJournal(record)))
         emit writeFailed(e.description);
 }
 

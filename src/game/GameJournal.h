@@ -8,6 +8,8 @@
 #include <QPointer>
 #include <QString>
 
+#include "PlayersRoom.h"
+
 #include <array>
 #include <optional>
 #include <utility>
@@ -31,6 +33,10 @@ struct JournalRecord {
     std::array<qint32, 10> scores{};
     std::array<QString, 10> names;
     std::vector<std::pair<int, qint32>> history;
+    // The phones' room, when phones were on: its code, port and players.
+    QString room;
+    quint16 port = 0;
+    QList<PhonePlayer> players;
 };
 
 QByteArray WriteJournal(const JournalRecord &record);
@@ -72,6 +78,8 @@ public:
     // Writes the journal after every change of this game (once for all the
     // changes one event makes), and removes it when the game ends normally.
     void watch(BoardGame &game);
+    // Keeps the phones' room too (nullptr: phones are off).
+    void watchRoom(const PlayersRoom *room);
 
     bool exists() const;
     // The journal left behind; nothing when there is none or it is damaged.
@@ -97,5 +105,6 @@ private:
 
     QString path_;
     QPointer<BoardGame> game_;
+    QPointer<const PlayersRoom> room_;
     bool pending_ = false;
 };

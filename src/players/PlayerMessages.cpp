@@ -35,9 +35,15 @@ bool isToken(const QString &s)
 
 QString CleanPlayerText(const QString &text)
 {
+    // Emoji are welcome, with the joiners that make one of several; controls,
+    // other invisible format characters (which could turn a name around on
+    // the screen) and broken surrogates are not.
+    if (!text.isValidUtf16())
+        return QString();
     for (const QChar c : text) {
+        const bool joiner = c.unicode() == 0x200C || c.unicode() == 0x200D;
         if (c.category() == QChar::Other_Control || c == QChar::LineSeparator || c == QChar::ParagraphSeparator ||
-            c.category() == QChar::Other_Format || c.category() == QChar::Other_Surrogate)
+            (c.category() == QChar::Other_Format && !joiner))
             return QString();
     }
     return text.simplified();

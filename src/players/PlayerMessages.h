@@ -26,5 +26,5 @@ constexpr int kLongestResponse = 200;
 std::optional<PlayerMessage> ParsePlayerMessage(const QByteArray &bytes);
 
 // A name or response as it is kept: blanks at the ends gone, blanks inside
-// one each; empty when it holds a control character.
+// one each; empty when it holds a control or format character.
 QString CleanPlayerText(const QString &text);

@@ -17,7 +17,7 @@ const TEXTS = {
     joining: "Joining…",
     pickTeam: "Tap your team first.",
     notConnected: "Not connected yet — try again in a moment.",
-    badChars: "Please use letters, numbers and punctuation only (no emoji).",
+    badChars: "That has a character the game cannot show; please leave it out.",
     err_room: "That room code is wrong — check the big screen.",
     err_full: "The room is full.",
     err_name: "Type a name of 1 to 20 characters.",
@@ -105,11 +105,12 @@ function saveToken(v) {
   try { token ? localStorage.setItem(TOKEN_KEY, token) : localStorage.removeItem(TOKEN_KEY); } catch (e) { /* kept in memory */ }
 }
 
-// The server drops names and responses with control, format or non-BMP
-// characters (emoji) without a word, so they are caught here; null = refused.
+// The server drops names and responses with control or format characters
+// (the joiners of emoji excepted) without a word, so they are caught here;
+// null = refused.
 function cleanText(s) {
   s = String(s).replace(/[\r\n\t]+/g, " ");
-  if (/[\p{Cc}\p{Cf}\p{Cs}\u2028\u2029\u{10000}-\u{10FFFF}]/u.test(s)) return null;
+  if (/[\p{Cc}\p{Cs}\u2028\u2029]|(?![\u200c\u200d])\p{Cf}/u.test(s)) return null;
   return s.replace(/\s+/g, " ").trim();
 }
 
@@ -124,14 +125,16 @@ function inkOn(color) {
 
 // ---- connection ----
 
-function connect() {
+// The old socket, perhaps dead after sleep, is silenced and closed.
+function dropSocket() {
   clearTimeout(retryTimer);
   clearTimeout(openTimer);
-  if (ws) { // an old socket, perhaps dead after sleep: silenced, then closed
-    ws.onopen = ws.onclose = ws.onerror = ws.onmessage = null;
-    try { ws.close(); } catch (e) { /* already gone */ }
-    ws = null;
-  }
+  if (ws) { ws.onopen = ws.onclose = ws.onerror = ws.onmessage = null; try { ws.close(); } catch (e) { /* gone */ } }
+  ws = null;
+}
+
+function connect() {
+  dropSocket();
   let sock;
   try {
     sock = new WebSocket((location.protocol === "https:" ? "wss://" : "ws://") + location.host + "/ws");
@@ -141,8 +144,7 @@ function connect() {
   openTimer = setTimeout(() => { if (ws === sock && sock.readyState !== 1) lost(); }, 6000);
   sock.onopen = () => { clearTimeout(openTimer); if (token) send({ type: "hello", token }); };
   sock.onmessage = (e) => {
-    let m;
-    try { m = JSON.parse(e.data); } catch (err) { return; }
+    try { var m = JSON.parse(e.data); } catch (err) { return; }
     if (m && typeof m === "object") handle(m);
   };
   sock.onerror = () => { try { sock.close(); } catch (e) { /* close follows */ } };
@@ -150,10 +152,7 @@ function connect() {
 }
 
 function lost() {
-  if (ws) { ws.onopen = ws.onclose = ws.onerror = ws.onmessage = null; try { ws.close(); } catch (e) { /* gone */ } }
-  ws = null;
-  clearTimeout(openTimer);
-  clearTimeout(retryTimer);
+  dropSocket();
   banner(true);
   joinBusy(false);
   retryTimer = setTimeout(connect, DELAYS[Math.min(retry++, DELAYS.length - 1)]);

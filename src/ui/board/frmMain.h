@@ -14,6 +14,7 @@
 #include "game/BoardGame.h"
 #include "game/BoardView.h"
 #include "game/BuzzIn.h"
+#include "game/TeamAnswers.h"
 #include "game/GameJournal.h"
 #include "platform/PictureBox.h"
 
@@ -72,6 +73,13 @@ public:
     const BoardGame &game() const { return game_; }
     // Who buzzed first on this board's clues.
     BuzzIn &buzzIn() { return buzzIn_; }
+    // The wagers and the final's responses, and its reveal.
+    TeamAnswers &answers() { return answers_; }
+    // The phones' join screen over the board: its address and room code, or
+    // none (phones off). Shown at once when asked.
+    void setJoinScreen(const QString &address, const QString &roomCode, bool show);
+    void showJoinScreen(bool show);
+    bool joinScreenShown() const;
 
     // The area the board lays out in (the centred 4:3 rectangle), in the
     // window's coordinates, and its size W x H.
@@ -164,6 +172,7 @@ private:
     void showScore(int team);
     void showTeamName(int team);
     void showBuzz();
+    void showReveal(int team);
     void teamBuzzed(int team);
 
     // BoardView: what the rules ask of the board.
@@ -204,6 +213,9 @@ private:
     Libraries &libraries_;
     BoardGame game_{*this, state_, libraries_};
     BuzzIn buzzIn_{game_};
+    TeamAnswers answers_{game_};
+    class JoinScreen *joinScreen_ = nullptr;
+    class RevealPanel *revealPanel_ = nullptr;
     QWidget *area_ = nullptr;
     BoardGeometry geometry_;
     QImage banner_;

@@ -117,4 +117,6 @@ void frmMain::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
     Form_Resize();
+    if (joinScreenShown())
+        showJoinScreen(true); // over the whole window again
 }

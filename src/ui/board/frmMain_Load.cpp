@@ -4,6 +4,7 @@
 
 #include "game/GameRules.h"
 #include "game/GameState.h"
+#include "ui/board/JoinScreen.h"
 #include "ui/controls/ShadowLabel.h"
 #include "ui/controls/CaptionControl.h"
 #include "ui/controls/FormLook.h"
@@ -127,6 +128,9 @@ void frmMain::createAnswerScreen()
     lblBuzz = new ShadowLabel(vseTV);
     lblBuzz->setObjectName(QStringLiteral("lblBuzz"));
     lblBuzz->hide();
+    revealPanel_ = new RevealPanel(vseTV);
+    joinScreen_ = new JoinScreen(this);
+    connect(joinScreen_, &JoinScreen::pressed, this, [this] { showJoinScreen(false); });
 }
 
 void frmMain::startSound()

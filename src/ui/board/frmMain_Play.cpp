@@ -9,6 +9,7 @@
 #include "board/AnimationGeometry.h"
 #include "board/TextFitting.h"
 #include "ui/controls/CaptionControl.h"
+#include "ui/board/JoinScreen.h"
 #include "ui/controls/FormLook.h"
 #include "shell/Libraries.h"
 #include "platform/Clock.h"
@@ -76,6 +77,47 @@ void frmMain::watchGame()
     connect(&game_, &BoardGame::teamNameChanged, this, &frmMain::showTeamName);
     connect(&buzzIn_, &BuzzIn::changed, this, &frmMain::showBuzz);
     connect(&buzzIn_, &BuzzIn::turn, this, &frmMain::teamBuzzed);
+    connect(&buzzIn_, &BuzzIn::judged, this, [this](int team, bool right) {
+        if (right)
+            answers_.noteRight(team); // it chooses the next tile
+    });
+    connect(&answers_, &TeamAnswers::revealed, this, &frmMain::showReveal);
+    connect(&game_, &BoardGame::openClueChanged, this, [this] {
+        if (!game_.openClue().final)
+            revealPanel_->hide();
+    });
+}
+
+void frmMain::showReveal(int team)
+{
+    const TeamAnswers::Answer &a = answers_.answer(team);
+    const QSizeF screen = screenSize();
+    revealPanel_->setGeometry(QRectF(screen.width() * 0.15, screen.height() * 0.3, screen.width() * 0.7,
+                                     screen.height() * 0.45).toRect());
+    revealPanel_->show(team, TeamName(team, state_.TeamNames[size_t(team)]), a.response.value_or(QString()),
+                       a.wager.value_or(0), a.right.value_or(false));
+}
+
+void frmMain::setJoinScreen(const QString &address, const QString &roomCode, bool show)
+{
+    joinScreen_->set(address, roomCode);
+    showJoinScreen(show && !address.isEmpty());
+}
+
+void frmMain::showJoinScreen(bool show)
+{
+    if (!show || joinScreen_->address().isEmpty()) {
+        joinScreen_->hide();
+        return;
+    }
+    joinScreen_->setGeometry(rect());
+    joinScreen_->show();
+    joinScreen_->raise();
+}
+
+bool frmMain::joinScreenShown() const
+{
+    return joinScreen_->isVisible();
 }
 
 void frmMain::teamBuzzed(int)
@@ -117,6 +159,13 @@ void frmMain::showBuzz()
 void frmMain::keyPressEvent(QKeyEvent *event)
 {
     Busy busy(*this);
+    // J shows or hides the phones' join screen, while phones are on.
+    if (event->key() == Qt::Key_J && event->modifiers() == Qt::NoModifier && !joinScreen_->address().isEmpty() &&
+        !screenVisible()) {
+        showJoinScreen(!joinScreenShown());
+        event->accept();
+        return;
+    }
     const int key = event->key();
     const QChar letter = key >= Qt::Key_A && key <= Qt::Key_Z ? QChar(char16_t(key)) : QChar();
     const bool used = key == Qt::Key_Backspace ? game_.KeyBackSpace()

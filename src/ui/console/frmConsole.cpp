@@ -177,6 +177,8 @@ QWidget *frmConsole::createCluePanel()
     layout->addWidget(lblWait);
     layout->addWidget(cmdNext);
     layout->addWidget(createBuzzPanel());
+    layout->addWidget(createAnswersPanel());
+    layout->addWidget(createPhonesPanel());
     return panel;
 }
 
@@ -457,6 +459,8 @@ void frmConsole::refresh()
     }
     refreshTeams(game);
     refreshBuzz();
+    refreshPhones();
+    refreshAnswers();
 }
 
 void frmConsole::refreshGrid(const BoardGame &game)

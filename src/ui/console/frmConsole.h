@@ -15,6 +15,9 @@
 struct GameState;
 class BoardGame;
 class BuzzerInputs;
+class Phones;
+class QComboBox;
+class QListWidget;
 class QCheckBox;
 class frmMain;
 class QLabel;
@@ -42,6 +45,9 @@ public:
     // The room's buzzers: the console turns buzz-in on and off, opens the
     // window that learns them, and judges the team that buzzed first.
     void setBuzzers(BuzzerInputs *inputs, std::function<void()> openWindow);
+    // The phones: turned on and off, their join screen shown on the board,
+    // their players listed (and removed), and what they send.
+    void setPhones(Phones *phones, std::function<void(bool)> turnOn);
 
     // Shows the game's state as it is now (also on every announcement and
     // on a timer for the seconds left).
@@ -57,6 +63,10 @@ private:
     QWidget *createTeamPanel();
     QWidget *createBuzzPanel();
     void refreshBuzz();
+    QWidget *createPhonesPanel();
+    QWidget *createAnswersPanel();
+    void refreshPhones();
+    void refreshAnswers();
     void act(const std::function<void(BoardGame &)> &action);
     bool confirm(const QString &question);
     void pressTile(int tile);
@@ -96,5 +106,20 @@ private:
     QPushButton *cmdRight = nullptr;
     QPushButton *cmdWrong = nullptr;
     BuzzerInputs *buzzers_ = nullptr;
+    Phones *phones_ = nullptr;
+    std::function<void(bool)> turnPhonesOn_;
+    QCheckBox *chkPhones = nullptr;
+    QPushButton *cmdJoinScreen = nullptr;
+    QLabel *lblRoom = nullptr;
+    QListWidget *lstPlayers = nullptr;
+    QPushButton *cmdRemovePlayer = nullptr;
+    QWidget *pnlAnswers = nullptr;
+    QLabel *lblDailyDouble = nullptr;
+    QComboBox *cmbDailyDouble = nullptr;
+    std::array<QLabel *, 10> lblAnswer{};
+    std::array<QPushButton *, 10> cmdAnswerRight{};
+    std::array<QPushButton *, 10> cmdAnswerWrong{};
+    QPushButton *cmdReveal = nullptr;
+    qint64 wagerShown_ = -1;
     std::function<void()> openBuzzersWindow_;
 };

@@ -152,6 +152,35 @@ void frmSelect::createBuzzerControls()
     cmdBuzzers = new QPushButton(QStringLiteral("Buzzers\u2026"), this);
     cmdBuzzers->setFont(ArialFont(9.75));
     connect(cmdBuzzers, &QPushButton::clicked, this, &frmSelect::openBuzzers);
+    chkPhones = new QCheckBox(QStringLiteral("Phones"), this);
+    chkPhones->setFont(ArialFont(9.75));
+    chkPhones->setPalette(lblScore->palette());
+    connect(chkPhones, &QCheckBox::clicked, this, &frmSelect::setPhonesOn);
+    connect(&phones_, &Phones::changed, this, [this] { chkPhones->setChecked(phones_.isOn()); });
+    connect(cmbScore, &QComboBox::currentIndexChanged, this, [this](int teams) {
+        if (phones_.server())
+            phones_.server()->setTeamCount(teams);
+    });
+}
+
+void frmSelect::setPhonesOn(bool on)
+{
+    if (!phones_.turnOn(on)) {
+        MsgBox(QStringLiteral("The phones cannot be used: no network port from %1 on is free on this computer.")
+                   .arg(PlayersServer::kPreferredPort),
+               MsgBoxStyle::OKOnly | MsgBoxStyle::Exclamation, applicationTitle());
+        return;
+    }
+    if (!on) {
+        journal_.watchRoom(nullptr);
+        return;
+    }
+    phones_.server()->setTeamCount(cmbScore->currentIndex());
+    if (board_) {
+        journal_.watchRoom(phones_.room());
+        phones_.server()->attach(&board_->game(), &board_->buzzIn(), &board_->answers());
+        board_->setJoinScreen(phones_.address(), phones_.room()->code(), false);
+    }
 }
 
 void frmSelect::openBuzzers()
@@ -290,12 +319,22 @@ void frmSelect::openBoard(const BoardOpener &start)
     frmMain *board = start(twoScreens ? hostScreen : nullptr, [this](frmMain *loaded) {
         journal_.watch(loaded->game());
         buzzers_.attach(&loaded->buzzIn());
+        journal_.watchRoom(phones_.isOn() ? phones_.room() : nullptr);
+        if (phones_.isOn()) {
+            phones_.server()->attach(&loaded->game(), &loaded->buzzIn(), &loaded->answers());
+            // Before round 1: the class joins while the board fills.
+            loaded->setJoinScreen(phones_.address(), phones_.room()->code(), true);
+        }
         if (console_)
             console_->attach(loaded);
     });
     board_ = board;
     if (board)
-        connect(board, &frmMain::unloaded, this, &frmSelect::comeBack);
+        connect(board, &frmMain::unloaded, this, [this] {
+            if (phones_.server())
+                phones_.server()->attach(nullptr, nullptr, nullptr);
+            comeBack();
+        });
     else
         comeBack();
 }
@@ -312,6 +351,10 @@ bool frmSelect::offerResume()
         return false;
     }
     state_.QuestionFile = offer.record.questionFile;
+    // Phones that were on come back on, on the same port with the same room:
+    // they find their teams again by themselves.
+    if (!offer.record.room.isEmpty())
+        phones_.resume(offer.record.room, offer.record.port, offer.record.players);
     openBoard([this, &offer](QScreen *host, const std::function<void(frmMain *)> &loaded) {
         return frmMain::ResumeGame(state_, libraries_, offer.record, host, loaded);
     });
@@ -324,6 +367,7 @@ void frmSelect::openConsole(bool byHand)
     if (!console_) {
         console_ = new frmConsole(state_);
         console_->setBuzzers(&buzzers_, [this] { openBuzzers(); });
+        console_->setPhones(&phones_, [this](bool on) { setPhonesOn(on); });
     }
     if (byHand) {
         console_->show();
@@ -395,6 +439,8 @@ void frmSelect::layOut()
     cmdBuzzers->setGeometry(l.list.toRect().right() - button + 1, combo.y(), button, combo.height());
     const int check = chkBuzzIn->sizeHint().width();
     chkBuzzIn->setGeometry(cmdBuzzers->x() - 12 - check, combo.y(), check, combo.height());
+    const int phones = chkPhones->sizeHint().width();
+    chkPhones->setGeometry(chkBuzzIn->x() - 16 - phones, combo.y(), phones, combo.height());
     // The two button bars stay transparent: the backdrop shows through.
     vseButtons->setGeometry(l.buttons.toRect());
     vseButtons->refresh();

@@ -4,6 +4,7 @@
 
 #include "game/BuzzerInputs.h"
 #include "game/GameJournal.h"
+#include "players/Phones.h"
 #include "ui/board/frmMain.h"
 #include "ui/buzzers/frmBuzzers.h"
 #include "ui/console/frmConsole.h"
@@ -49,6 +50,8 @@ public:
     // Beyond the team count: buzz-in on or off, and the buzzers learned.
     QCheckBox *chkBuzzIn = nullptr;
     QPushButton *cmdBuzzers = nullptr;
+    // Phones as buzzers and answer pads: off until ticked.
+    QCheckBox *chkPhones = nullptr;
     CaptionControl *vseButtons = nullptr;
     CommandButton *cmdStart = nullptr;
     CommandButton *cmdEditor = nullptr;
@@ -97,6 +100,9 @@ public:
     BuzzerInputs &buzzers() { return buzzers_; }
     void openBuzzers();
     frmBuzzers *buzzersWindow() const { return buzzersWindow_; }
+    // The phones: turned on and off here or on the console.
+    Phones &phones() { return phones_; }
+    void setPhonesOn(bool on);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -140,6 +146,7 @@ private:
     bool consoleByHand_ = false;
     GameJournal journal_;
     BuzzerInputs buzzers_;
+    Phones phones_{state_};
     QPointer<frmBuzzers> buzzersWindow_;
     std::function<SetListing()> ahead_;
     QList<UncheckedFolder> unchecked_;
