@@ -9,6 +9,10 @@
 //                                          then the projector's)
 //   shoot editor OUT.png [WIDTHxHEIGHT]    the editor on the picture sample
 //                                          set, maximized on the laptop
+//   shoot phones OUT [WIDTHxHEIGHT]        phones: OUT-join.png (the join
+//                                          screen), OUT-reveal.png (the
+//                                          final's reveal) and
+//                                          OUT-console.png (its answers)
 //   shoot buzz OUT [WIDTHxHEIGHT]          buzz-in: four teams buzzed, two
 //                                          judged wrong; OUT-board.png (the
 //                                          projector, of the laptop's size)
@@ -17,6 +21,7 @@
 #include "game/BuzzIn.h"
 #include "game/BuzzerInputs.h"
 #include "game/GameState.h"
+#include "game/TeamAnswers.h"
 #include "platform/Clock.h"
 #include "platform/ModuleFileName.h"
 #include "shell/Libraries.h"
@@ -30,6 +35,7 @@
 #include <QApplication>
 #include <QFile>
 #include <QComboBox>
+#include <cstring>
 #include <QListWidget>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -92,17 +98,62 @@ int shootBuzz(frmSelect *home, GameState &state, const QString &out)
     return saved ? 0 : 1;
 }
 
+// Phones on: the join screen before round 1, then the final's wagers and
+// responses, judged, and the first team revealed.
+int shootPhones(frmSelect *home, const QString &out)
+{
+    home->setPhonesOn(true);
+    for (const char *name : {"Ana", "Ben", "Cy", "Dee", "Eli"})
+        home->phones().room()->join(int(std::strlen(name)) % 4, QString::fromLatin1(name));
+    home->cmbScore->setCurrentIndex(4);
+    home->lstQuestions->setCurrentItem(home->lstQuestions->findItems(QStringLiteral("World"), Qt::MatchStartsWith).value(0));
+    home->cmdStart->click();
+    frmMain *board = home->board();
+    frmConsole *console = home->console();
+    if (!board || !console)
+        return 1;
+    QApplication::processEvents();
+    bool saved = board->grab().save(out + QStringLiteral("-join.png"));
+    board->showJoinScreen(false);
+    const std::array<qint32, 4> scores{2400, 1800, 3100, 900};
+    for (int t = 0; t < 4; ++t)
+        board->game().addToScore(t, scores[size_t(t)]);
+    board->game().KeyDown(QLatin1Char('N'), -1, 7);
+    board->game().KeyDown(QLatin1Char('N'), -1, 7);
+    board->game().AnswerScreenPress(); // the category
+    TeamAnswers &answers = board->answers();
+    const std::array<qint64, 4> wagers{1000, 1800, 2000, 900};
+    for (int t = 0; t < 4; ++t)
+        answers.setWager(t, wagers[size_t(t)], true);
+    board->game().AnswerScreenPress(); // the clue
+    const char *said[] = {"What is Lake Baikal?", "What is Lake Superior?", "What is Lake Baikal?", "What is the Caspian?"};
+    for (int t = 0; t < 4; ++t) {
+        answers.setResponse(t, QString::fromLatin1(said[t]));
+        answers.judge(t, t % 2 == 0);
+    }
+    board->game().AnswerScreenPress(); // the response
+    answers.revealNext();
+    console->refresh();
+    QApplication::processEvents();
+    saved = saved && board->grab().save(out + QStringLiteral("-reveal.png")) &&
+            console->grab().save(out + QStringLiteral("-console.png"));
+    delete board;
+    delete home;
+    return saved ? 0 : 1;
+}
+
 } // namespace
 
 int main(int argc, char **argv)
 {
     const QString what = QString::fromLocal8Bit(argc > 1 ? argv[1] : "");
     if (argc < 3 || (what != QStringLiteral("console") && what != QStringLiteral("picture") &&
-                     what != QStringLiteral("editor") && what != QStringLiteral("buzz"))) {
-        fprintf(stderr, "usage: shoot console|picture|editor|buzz OUT.png [WIDTHxHEIGHT]\n");
+                     what != QStringLiteral("editor") && what != QStringLiteral("buzz") &&
+                     what != QStringLiteral("phones"))) {
+        fprintf(stderr, "usage: shoot console|picture|editor|buzz|phones OUT.png [WIDTHxHEIGHT]\n");
         return 2;
     }
-    const bool picture = what == QStringLiteral("picture") || what == QStringLiteral("buzz");
+    const bool picture = what == QStringLiteral("picture") || what == QStringLiteral("buzz") || what == QStringLiteral("phones");
     const QStringList size = QString::fromLocal8Bit(argc > 3 ? argv[3] : "1366x768").split(QLatin1Char('x'));
     QTemporaryDir work;
     // A user of its own: no game left behind by an earlier shot comes back
@@ -133,6 +184,8 @@ int main(int argc, char **argv)
     frmSelect *home = find<frmSelect>();
     if (what == QStringLiteral("buzz"))
         return shootBuzz(home, state, QString::fromLocal8Bit(argv[2]));
+    if (what == QStringLiteral("phones"))
+        return shootPhones(home, QString::fromLocal8Bit(argv[2]));
     const QList<QListWidgetItem *> sets = home->lstQuestions->findItems(
         picture ? QStringLiteral("Pictures") : QStringLiteral("World Geography"), Qt::MatchStartsWith);
     home->lstQuestions->setCurrentItem(sets.value(0));

@@ -126,7 +126,7 @@ void RevealPanel::paintEvent(QPaintEvent *)
     QPainter p(this);
     p.setRenderHint(QPainter::Antialiasing);
     p.setPen(QPen(TeamColor(team_), height() / 60.0));
-    p.setBrush(QColor(6, 14, 52, 235));
+    p.setBrush(QColor(6, 14, 52, 250));
     const qreal r = height() / 20.0;
     p.drawRoundedRect(QRectF(rect()).adjusted(r / 2, r / 2, -r / 2, -r / 2), r, r);
     const qreal w = width() * 0.9, x = width() * 0.05, h = height();

@@ -80,6 +80,7 @@ public:
     void setJoinScreen(const QString &address, const QString &roomCode, bool show);
     void showJoinScreen(bool show);
     bool joinScreenShown() const;
+    void setJoinedPlayers(int players);
 
     // The area the board lays out in (the centred 4:3 rectangle), in the
     // window's coordinates, and its size W x H.

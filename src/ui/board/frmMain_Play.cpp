@@ -117,7 +117,13 @@ void frmMain::showJoinScreen(bool show)
 
 bool frmMain::joinScreenShown() const
 {
-    return joinScreen_->isVisible();
+    // Shown on the board, whether or not the board itself shows yet.
+    return !joinScreen_->isHidden();
+}
+
+void frmMain::setJoinedPlayers(int players)
+{
+    joinScreen_->setJoined(players);
 }
 
 void frmMain::teamBuzzed(int)

@@ -17,6 +17,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QSpinBox>
+#include <QStackedWidget>
 #include <QStyle>
 #include <QTimer>
 
@@ -29,7 +30,7 @@ constexpr int kTickMs = 250;
 const char *const kStyle = R"(
 QWidget#frmConsole { background: #0c1c5c; }
 QLabel { color: white; }
-QLabel#lblRound { color: #ffcc33; font-weight: bold; }
+QLabel#lblRound, QLabel#lblFinalAnswers { color: #ffcc33; font-weight: bold; }
 QLabel#lblClue { background: #13247a; border-radius: 6px; padding: 8px; }
 QLabel#lblResponse { background: #0a3d1f; border-radius: 6px; padding: 8px; color: #c8ffd4; }
 QLabel#lblWait { color: #ffcc33; font-weight: bold; }
@@ -125,8 +126,13 @@ void frmConsole::createControls()
     bar->addWidget(cmdEndGame);
     bar->addWidget(cmdSwitch);
     top->addLayout(bar, 0, 0, 1, 2);
-    top->addWidget(createBoardGrid(), 1, 0);
+    // The board in miniature; in the final, whose board is empty, the
+    // teams' wagers and responses in its place.
+    stkBoard = new QStackedWidget(this);
+    stkBoard->addWidget(createBoardGrid());
+    top->addWidget(stkBoard, 1, 0);
     top->addWidget(createCluePanel(), 1, 1);
+    stkBoard->addWidget(createAnswersPanel());
     top->addWidget(createTeamPanel(), 2, 0, 1, 2);
     top->setColumnStretch(0, 3);
     top->setColumnStretch(1, 2);
@@ -177,7 +183,7 @@ QWidget *frmConsole::createCluePanel()
     layout->addWidget(lblWait);
     layout->addWidget(cmdNext);
     layout->addWidget(createBuzzPanel());
-    layout->addWidget(createAnswersPanel());
+    layout->addWidget(createDailyDoublePanel());
     layout->addWidget(createPhonesPanel());
     return panel;
 }

@@ -65,6 +65,7 @@ private:
     void refreshBuzz();
     QWidget *createPhonesPanel();
     QWidget *createAnswersPanel();
+    QWidget *createDailyDoublePanel();
     void refreshPhones();
     void refreshAnswers();
     void act(const std::function<void(BoardGame &)> &action);
@@ -113,7 +114,9 @@ private:
     QLabel *lblRoom = nullptr;
     QListWidget *lstPlayers = nullptr;
     QPushButton *cmdRemovePlayer = nullptr;
+    class QStackedWidget *stkBoard = nullptr;
     QWidget *pnlAnswers = nullptr;
+    QWidget *pnlDailyDouble = nullptr;
     QLabel *lblDailyDouble = nullptr;
     QComboBox *cmbDailyDouble = nullptr;
     std::array<QLabel *, 10> lblAnswer{};

@@ -19,6 +19,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QSpinBox>
+#include <QStackedWidget>
 
 namespace {
 
@@ -54,7 +55,7 @@ QWidget *frmConsole::createPhonesPanel()
     lblRoom->setObjectName(QStringLiteral("lblRoom"));
     lstPlayers = new QListWidget(panel);
     lstPlayers->setObjectName(QStringLiteral("lstPlayers"));
-    lstPlayers->setMaximumHeight(90);
+    lstPlayers->setMaximumHeight(72);
     cmdRemovePlayer = button(QStringLiteral("Remove player"), QStringLiteral("cmdRemovePlayer"), panel);
     connect(cmdRemovePlayer, &QPushButton::clicked, this, [this] {
         const QListWidgetItem *item = lstPlayers->currentItem();
@@ -89,8 +90,10 @@ void frmConsole::refreshPhones()
     cmdJoinScreen->setVisible(on);
     cmdJoinScreen->setEnabled(board_);
     lblRoom->setVisible(on);
-    lstPlayers->setVisible(on);
-    cmdRemovePlayer->setVisible(on);
+    // The list while no clue is open: during one the host has other cares.
+    const bool between = !board_ || !board_->game().openClue().open;
+    lstPlayers->setVisible(on && between);
+    cmdRemovePlayer->setVisible(on && between);
     if (!on)
         return;
     lblRoom->setText(QStringLiteral("Room %1 \u2014 %2").arg(phones_->room()->code(), phones_->address()));
@@ -115,24 +118,35 @@ void frmConsole::refreshPhones()
     cmdRemovePlayer->setEnabled(lstPlayers->currentItem());
 }
 
-QWidget *frmConsole::createAnswersPanel()
+QWidget *frmConsole::createDailyDoublePanel()
 {
-    pnlAnswers = new QWidget(this);
-    auto *layout = new QGridLayout(pnlAnswers);
+    pnlDailyDouble = new QWidget(this);
+    auto *layout = new QHBoxLayout(pnlDailyDouble);
     layout->setContentsMargins(0, 4, 0, 0);
-    lblDailyDouble = new QLabel(QStringLiteral("Daily double for:"), pnlAnswers);
-    cmbDailyDouble = new QComboBox(pnlAnswers);
+    lblDailyDouble = new QLabel(QStringLiteral("Daily double for:"), pnlDailyDouble);
+    cmbDailyDouble = new QComboBox(pnlDailyDouble);
     cmbDailyDouble->setObjectName(QStringLiteral("cmbDailyDouble"));
     cmbDailyDouble->setFocusPolicy(Qt::NoFocus);
     connect(cmbDailyDouble, &QComboBox::activated, this, [this](int index) {
         if (board_)
             board_->answers().setDailyDoubleTeam(index > 0 ? std::optional<int>(index - 1) : std::nullopt);
     });
-    layout->addWidget(lblDailyDouble, 0, 0);
-    layout->addWidget(cmbDailyDouble, 0, 1, 1, 2);
+    layout->addWidget(lblDailyDouble);
+    layout->addWidget(cmbDailyDouble, 1);
+    return pnlDailyDouble;
+}
+
+QWidget *frmConsole::createAnswersPanel()
+{
+    pnlAnswers = new QWidget(this);
+    auto *layout = new QGridLayout(pnlAnswers);
+    auto *title = new QLabel(QStringLiteral("The final: each team's wager and response"), pnlAnswers);
+    title->setObjectName(QStringLiteral("lblFinalAnswers"));
+    layout->addWidget(title, 0, 0, 1, 3);
     for (int t = 0; t < 10; ++t) {
         lblAnswer[size_t(t)] = new QLabel(pnlAnswers);
         lblAnswer[size_t(t)]->setTextFormat(Qt::PlainText); // what a phone typed is text, never markup
+        lblAnswer[size_t(t)]->setWordWrap(true);
         lblAnswer[size_t(t)]->setObjectName(QStringLiteral("lblAnswer(%1)").arg(t));
         cmdAnswerRight[size_t(t)] = button(QStringLiteral("Right"), QStringLiteral("cmdAnswerRight(%1)").arg(t), pnlAnswers);
         cmdAnswerWrong[size_t(t)] = button(QStringLiteral("Wrong"), QStringLiteral("cmdAnswerWrong(%1)").arg(t), pnlAnswers);
@@ -155,6 +169,7 @@ QWidget *frmConsole::createAnswersPanel()
     });
     layout->addWidget(cmdReveal, 11, 0, 1, 3);
     layout->setColumnStretch(0, 1);
+    layout->setRowStretch(12, 1);
     return pnlAnswers;
 }
 
@@ -164,12 +179,11 @@ void frmConsole::refreshAnswers()
     const OpenClue clue = board_ ? board_->game().openClue() : OpenClue();
     const bool daily = answers && clue.open && clue.dailyDouble;
     const bool final = answers && clue.open && clue.final && clue.step != ClueStep::FinalCategory;
-    pnlAnswers->setVisible(daily || final);
+    pnlDailyDouble->setVisible(daily);
+    stkBoard->setCurrentWidget(final ? pnlAnswers : stkBoard->widget(0));
     if (!daily && !final)
         return;
     const int teams = board_->game().state().Teams;
-    lblDailyDouble->setVisible(daily);
-    cmbDailyDouble->setVisible(daily);
     if (daily) {
         QStringList items{QStringLiteral("(choose the team)")};
         for (int t = 0; t < teams; ++t)

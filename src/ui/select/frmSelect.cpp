@@ -156,7 +156,11 @@ void frmSelect::createBuzzerControls()
     chkPhones->setFont(ArialFont(9.75));
     chkPhones->setPalette(lblScore->palette());
     connect(chkPhones, &QCheckBox::clicked, this, &frmSelect::setPhonesOn);
-    connect(&phones_, &Phones::changed, this, [this] { chkPhones->setChecked(phones_.isOn()); });
+    connect(&phones_, &Phones::changed, this, [this] {
+        chkPhones->setChecked(phones_.isOn());
+        if (board_ && phones_.room())
+            board_->setJoinedPlayers(int(phones_.room()->players().size()));
+    });
     connect(cmbScore, &QComboBox::currentIndexChanged, this, [this](int teams) {
         if (phones_.server())
             phones_.server()->setTeamCount(teams);
@@ -324,6 +328,7 @@ void frmSelect::openBoard(const BoardOpener &start)
             phones_.server()->attach(&loaded->game(), &loaded->buzzIn(), &loaded->answers());
             // Before round 1: the class joins while the board fills.
             loaded->setJoinScreen(phones_.address(), phones_.room()->code(), true);
+            loaded->setJoinedPlayers(int(phones_.room()->players().size()));
         }
         if (console_)
             console_->attach(loaded);
