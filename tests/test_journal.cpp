@@ -143,10 +143,15 @@ private slots:
         QVERIFY(r->history == (std::vector<std::pair<int, qint32>>{{1, 700}}));
         QCOMPARE(r->dailyDouble1, state_.DailyDouble1);
 
-        // A written journal reads back as written.
+        // A written journal reads back as written, the phones' room with it.
+        r->room = QStringLiteral("KQXR");
+        r->port = 47110;
+        r->players = {{QString(32, QLatin1Char('a')), 1, QStringLiteral("Ana \U0001f981")}};
         const std::optional<JournalRecord> again = ReadJournal(WriteJournal(*r));
         QVERIFY(again);
         QCOMPARE(WriteJournal(*again), WriteJournal(*r));
+        QCOMPARE(again->players.size(), 1);
+        QCOMPARE(again->players[0].name, QStringLiteral("Ana \U0001f981"));
 
         sendKey(board(), Qt::Key_Q, kAllThree);
         QCoreApplication::processEvents();
@@ -426,6 +431,8 @@ private:
         QTest::newRow("a score beyond any whole number") << changed("\"scores\": [\n        0", "\"scores\": [\n        1e300");
         QTest::newRow("no set") << changed("\"/nowhere/game.QZ2\"", "\"\"");
         QTest::newRow("a huge file") << QByteArray(2 << 20, ' ');
+        QTest::newRow("a phones' room without its code")
+            << SealJournal(valid.left(valid.lastIndexOf('}')) + R"(, "phones": {"port": 47110, "players": []}})");
     }
 };
 
