@@ -342,7 +342,7 @@ private slots:
         QTRY_COMPARE(server_->phoneConnections(), 1);
         clock_->advance(25'000);
         server_->sweep();
-        QCOMPARE(server_->phoneConnections(), 0);
+        QTRY_COMPARE(server_->phoneConnections(), 0);
     }
 
     // The checker alone, on messages no page sends.

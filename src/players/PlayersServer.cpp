@@ -9,6 +9,7 @@
 #include "game/TeamAnswers.h"
 #include "platform/Clock.h"
 
+#include <QAbstractHttpServer>
 #include <QFile>
 #include <QHttpServerRequest>
 #include <QHttpServerResponder>
@@ -18,6 +19,9 @@
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QWebSocket>
+
+#include <deque>
+#include <functional>
 
 namespace {
 
@@ -36,6 +40,11 @@ QByteArray pageFile(const QString &resource)
 {
     QFile f(resource);
     return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}
+
+QByteArray compact(const QJsonObject &o)
+{
+    return QJsonDocument(o).toJson(QJsonDocument::Compact);
 }
 
 } // namespace
@@ -112,10 +121,197 @@ private:
     std::vector<Guarded> guarded_;
 };
 
+
+// The network half: every connection, on the network thread.
+class PhoneLink : public QAbstractHttpServer {
+public:
+    struct Callbacks {
+        std::function<void(quint64)> connected, disconnected;
+        std::function<void(quint64, const PlayerMessage &, qint64)> message;
+    };
+
+    PhoneLink(const ServerLimits &limits, Callbacks callbacks) : limits_(limits), callbacks_(std::move(callbacks))
+    {
+        connect(this, &QAbstractHttpServer::newWebSocketConnection, this, &PhoneLink::acceptPhones);
+    }
+
+    quint16 listenOn(const QHostAddress &address, const QList<quint16> &ports)
+    {
+        auto *tcp = new GuardedTcpServer(limits_, this);
+        for (quint16 port : ports) {
+            if (tcp->listen(address, port))
+                break;
+        }
+        if (!tcp->isListening()) {
+            delete tcp;
+            return 0;
+        }
+        tcp_ = tcp;
+        bind(tcp_);
+        lastPing_ = Clock::instance().steadyMs();
+        return tcp_->serverPort();
+    }
+
+    void close()
+    {
+        phones_.clear();
+        delete tcp_;
+        tcp_ = nullptr;
+    }
+
+    void send(quint64 id, const QByteArray &bytes)
+    {
+        if (Phone *p = phone(id))
+            p->socket->sendTextMessage(QString::fromUtf8(bytes));
+    }
+
+    void sweep()
+    {
+        const qint64 now = Clock::instance().steadyMs();
+        if (tcp_)
+            tcp_->sweep(now);
+        std::vector<quint64> dead;
+        for (const auto &p : phones_) {
+            if (now - p->lastHeard > limits_.deadAfterMs)
+                dead.push_back(p->id);
+        }
+        for (quint64 id : dead)
+            drop(id);
+        if (now - lastPing_ >= limits_.pingEveryMs) {
+            lastPing_ = now;
+            for (const auto &p : phones_)
+                p->socket->ping();
+        }
+    }
+
+    void drop(quint64 id)
+    {
+        const auto it = std::find_if(phones_.begin(), phones_.end(), [&](const auto &p) { return p->id == id; });
+        if (it == phones_.end())
+            return;
+        std::unique_ptr<Phone> gone = std::move(*it);
+        phones_.erase(it);
+        gone->socket->disconnect(this);
+        gone->socket->abort();
+        // The socket may be the sender of the signal that brought us here.
+        gone->socket.release()->deleteLater();
+        callbacks_.disconnected(id);
+    }
+
+protected:
+    bool handleRequest(const QHttpServerRequest &request, QTcpSocket *socket) override
+    {
+        if (request.method() != QHttpServerRequest::Method::Get)
+            return false;
+        const QString path = request.url().path();
+        // The phones' connection: taken over by the WebSocket server as soon
+        // as this says yes and writes nothing (Qt hands the socket on then).
+        if (path == QStringLiteral("/ws"))
+            return request.value(QByteArrayLiteral("upgrade")).compare(QByteArrayLiteral("websocket"), Qt::CaseInsensitive) == 0;
+        for (const PageFile &f : kPage) {
+            if (path == QLatin1String(f.path)) {
+                makeResponder(request, socket)
+                    .write(pageFile(QLatin1String(f.resource)),
+                           {{"Content-Type", f.type},
+                            {"Cache-Control", "no-cache"},
+                            {"X-Content-Type-Options", "nosniff"},
+                            // The page runs its own script only and talks to its own server only.
+                            {"Content-Security-Policy", "default-src 'self'; connect-src 'self' ws: wss:; img-src 'self' data:"}});
+                return true;
+            }
+        }
+        return false;
+    }
+
+    void missingHandler(const QHttpServerRequest &request, QTcpSocket *socket) override
+    {
+        makeResponder(request, socket).write(QHttpServerResponder::StatusCode::NotFound);
+    }
+
+private:
+    struct Phone {
+        quint64 id = 0;
+        std::unique_ptr<QWebSocket> socket;
+        std::deque<qint64> recent; // the moments of the last messages
+        qint64 lastHeard = 0;
+    };
+
+    Phone *phone(quint64 id)
+    {
+        for (auto &p : phones_) {
+            if (p->id == id)
+                return p.get();
+        }
+        return nullptr;
+    }
+
+    void acceptPhones()
+    {
+        while (hasPendingWebSocketConnections()) {
+            std::unique_ptr<QWebSocket> socket = nextPendingWebSocketConnection();
+            if (!socket || socket->requestUrl().path() != QStringLiteral("/ws") || !tcp_)
+                continue; // not the page's: let go at once
+            tcp_->upgraded(socket->peerAddress(), socket->peerPort());
+            socket->setMaxAllowedIncomingMessageSize(quint64(kMostMessageBytes));
+            socket->setMaxAllowedIncomingFrameSize(quint64(kMostMessageBytes));
+            const quint64 id = ++lastId_;
+            QWebSocket *raw = socket.get();
+            connect(raw, &QWebSocket::textMessageReceived, this, [this, id](const QString &text) { received(id, text); });
+            // Only text is the page's; anything else ends the connection.
+            connect(raw, &QWebSocket::binaryMessageReceived, this, [this, id] { drop(id); });
+            connect(raw, &QWebSocket::pong, this, [this, id] {
+                if (Phone *p = phone(id))
+                    p->lastHeard = Clock::instance().steadyMs();
+            });
+            connect(raw, &QWebSocket::disconnected, this, [this, id] {
+                QMetaObject::invokeMethod(this, [this, id] { drop(id); }, Qt::QueuedConnection);
+            });
+            auto p = std::make_unique<Phone>();
+            p->id = id;
+            p->socket = std::move(socket);
+            p->lastHeard = Clock::instance().steadyMs();
+            phones_.push_back(std::move(p));
+            callbacks_.connected(id);
+        }
+    }
+
+    void received(quint64 id, const QString &text)
+    {
+        // Its moment first: the order of buzzes is the order they came in.
+        const qint64 now = Clock::instance().steadyMs();
+        Phone *p = phone(id);
+        if (!p)
+            return;
+        p->lastHeard = now;
+        p->recent.push_back(now);
+        while (!p->recent.empty() && now - p->recent.front() >= 1000)
+            p->recent.pop_front();
+        const int inLastSecond = int(p->recent.size());
+        if (inLastSecond > 2 * limits_.messagesPerSecond) {
+            drop(id);
+            return;
+        }
+        if (inLastSecond > limits_.messagesPerSecond) {
+            if (inLastSecond == limits_.messagesPerSecond + 1)
+                p->socket->sendTextMessage(QStringLiteral(R"({"type":"error","code":"busy"})"));
+            return;
+        }
+        if (const std::optional<PlayerMessage> m = ParsePlayerMessage(text.toUtf8()))
+            callbacks_.message(id, *m, now);
+    }
+
+    const ServerLimits &limits_;
+    Callbacks callbacks_;
+    GuardedTcpServer *tcp_ = nullptr;
+    std::vector<std::unique_ptr<Phone>> phones_;
+    quint64 lastId_ = 0;
+    qint64 lastPing_ = 0;
+};
+
 PlayersServer::PlayersServer(PlayersRoom &room, const GameState &state, QObject *parent)
-    : QAbstractHttpServer(parent), room_(room), state_(state)
+    : QObject(parent), room_(room), state_(state)
 {
-    connect(this, &QAbstractHttpServer::newWebSocketConnection, this, &PlayersServer::acceptPhones);
+    network_.setObjectName(QStringLiteral("players-network"));
     connect(&room_, &PlayersRoom::changed, this, &PlayersServer::playersChanged);
     sweeper_.setInterval(250);
     connect(&sweeper_, &QTimer::timeout, this, &PlayersServer::sweep);
@@ -135,37 +331,55 @@ quint16 PlayersServer::start(const QHostAddress &address)
         ports << room_.port();
     for (quint16 p = kPreferredPort; p < kPreferredPort + 20; ++p)
         ports << p;
-    auto *tcp = new GuardedTcpServer(limits_, this);
-    for (quint16 port : ports) {
-        if (tcp->listen(address, port))
-            break;
-    }
-    if (!tcp->isListening()) {
-        delete tcp;
+    // What the network thread hears comes here, in the order it came.
+    PhoneLink::Callbacks callbacks;
+    callbacks.connected = [this](quint64 id) {
+        QMetaObject::invokeMethod(this, [this, id] { connected(id); }, Qt::QueuedConnection);
+    };
+    callbacks.disconnected = [this](quint64 id) {
+        QMetaObject::invokeMethod(this, [this, id] { disconnected(id); }, Qt::QueuedConnection);
+    };
+    callbacks.message = [this](quint64 id, const PlayerMessage &m, qint64 ms) {
+        QMetaObject::invokeMethod(this, [this, id, m, ms] { received(id, m, ms); }, Qt::QueuedConnection);
+    };
+    // Made on its thread, so that the HTTP and WebSocket servers inside it
+    // belong to that thread too.
+    network_.start();
+    auto *anchor = new QObject;
+    anchor->moveToThread(&network_);
+    PhoneLink *link = nullptr;
+    quint16 port = 0;
+    QMetaObject::invokeMethod(anchor, [&] {
+        link = new PhoneLink(limits_, std::move(callbacks));
+        port = link->listenOn(address, ports);
+        anchor->deleteLater();
+    }, Qt::BlockingQueuedConnection);
+    if (!port) {
+        stopLink(link);
         return 0;
     }
-    tcp_ = tcp;
-    bind(tcp_);
-    room_.setPort(tcp_->serverPort());
-    lastPing_ = Clock::instance().steadyMs();
+    link_ = link;
+    room_.setPort(port);
     sweeper_.start();
-    return room_.port();
+    return port;
+}
+
+void PlayersServer::stopLink(PhoneLink *link)
+{
+    QMetaObject::invokeMethod(link, [link] {
+        link->close();
+        delete link;
+    }, Qt::BlockingQueuedConnection);
+    network_.quit();
+    network_.wait();
 }
 
 void PlayersServer::stop()
 {
     sweeper_.stop();
+    if (link_)
+        stopLink(std::exchange(link_, nullptr));
     phones_.clear();
-    if (tcp_) {
-        tcp_->close();
-        delete tcp_; // its connections with it
-        tcp_ = nullptr;
-    }
-}
-
-bool PlayersServer::running() const
-{
-    return tcp_ && tcp_->isListening();
 }
 
 QString PlayersServer::address() const
@@ -191,141 +405,46 @@ QString PlayersServer::address() const
     return QStringLiteral("http://%1:%2/").arg(fallback).arg(room_.port());
 }
 
-bool PlayersServer::handleRequest(const QHttpServerRequest &request, QTcpSocket *socket)
+void PlayersServer::sendBytes(quint64 id, const QByteArray &bytes)
 {
-    if (request.method() != QHttpServerRequest::Method::Get)
-        return false;
-    const QString path = request.url().path();
-    // The phones' connection: taken over by the WebSocket server as soon as
-    // this says yes and writes nothing (Qt hands the socket on only then).
-    if (path == QStringLiteral("/ws"))
-        return request.value(QByteArrayLiteral("upgrade")).compare(QByteArrayLiteral("websocket"), Qt::CaseInsensitive) == 0;
-    for (const PageFile &f : kPage) {
-        if (path == QLatin1String(f.path)) {
-            makeResponder(request, socket)
-                .write(pageFile(QLatin1String(f.resource)),
-                       {{"Content-Type", f.type},
-                        {"Cache-Control", "no-cache"},
-                        {"X-Content-Type-Options", "nosniff"},
-                        // The page runs its own script only and talks to its own server only.
-                        {"Content-Security-Policy", "default-src 'self'; connect-src 'self' ws: wss:; img-src 'self' data:"}});
-            return true;
-        }
-    }
-    return false;
+    if (PhoneLink *link = link_)
+        QMetaObject::invokeMethod(link, [link, id, bytes] { link->send(id, bytes); }, Qt::QueuedConnection);
 }
 
-void PlayersServer::missingHandler(const QHttpServerRequest &request, QTcpSocket *socket)
+void PlayersServer::send(quint64 id, const QJsonObject &message)
 {
-    makeResponder(request, socket).write(QHttpServerResponder::StatusCode::NotFound);
+    sendBytes(id, compact(message));
 }
 
-void PlayersServer::acceptPhones()
+void PlayersServer::connected(quint64 id)
 {
-    while (hasPendingWebSocketConnections()) {
-        std::unique_ptr<QWebSocket> socket = nextPendingWebSocketConnection();
-        if (!socket || socket->requestUrl().path() != QStringLiteral("/ws") || !tcp_) {
-            continue; // not the page's: let go at once
-        }
-        tcp_->upgraded(socket->peerAddress(), socket->peerPort());
-        socket->setMaxAllowedIncomingMessageSize(quint64(kMostMessageBytes));
-        socket->setMaxAllowedIncomingFrameSize(quint64(kMostMessageBytes));
-        QWebSocket *raw = socket.get();
-        connect(raw, &QWebSocket::textMessageReceived, this, [this, raw](const QString &text) { received(raw, text); });
-        // Only text is the page's; anything else ends the connection.
-        connect(raw, &QWebSocket::binaryMessageReceived, this, [this, raw] { drop(raw); });
-        connect(raw, &QWebSocket::pong, this, [this, raw] {
-            if (Phone *p = phoneOf(raw))
-                p->lastHeard = Clock::instance().steadyMs();
-        });
-        connect(raw, &QWebSocket::disconnected, this, [this, raw] {
-            QMetaObject::invokeMethod(this, [this, raw] { drop(raw); }, Qt::QueuedConnection);
-        });
-        auto phone = std::make_unique<Phone>();
-        phone->socket = std::move(socket);
-        phone->lastHeard = Clock::instance().steadyMs();
-        phones_.push_back(std::move(phone));
-        send(*phones_.back(), teamsMessage("welcome"));
-    }
+    phones_.insert(id, Phone{});
+    send(id, teamsMessage("welcome"));
 }
 
-PlayersServer::Phone *PlayersServer::phoneOf(QWebSocket *socket)
+void PlayersServer::disconnected(quint64 id)
 {
-    for (auto &p : phones_) {
-        if (p->socket.get() == socket)
-            return p.get();
-    }
-    return nullptr;
+    phones_.remove(id);
 }
 
-void PlayersServer::drop(QWebSocket *socket)
+void PlayersServer::received(quint64 id, const PlayerMessage &m, qint64 arrivedMs)
 {
-    const auto it = std::find_if(phones_.begin(), phones_.end(), [&](const auto &p) { return p->socket.get() == socket; });
-    if (it == phones_.end())
+    const auto phone = phones_.find(id);
+    if (phone == phones_.end())
         return;
-    std::unique_ptr<Phone> gone = std::move(*it);
-    phones_.erase(it);
-    gone->socket->disconnect(this);
-    gone->socket->abort();
-    // The socket may be the sender of the signal that brought us here.
-    gone->socket.release()->deleteLater();
-}
-
-bool PlayersServer::throttled(Phone &phone, qint64 now)
-{
-    phone.recent.push_back(now);
-    while (!phone.recent.empty() && now - phone.recent.front() >= 1000)
-        phone.recent.pop_front();
-    return int(phone.recent.size()) > limits_.messagesPerSecond;
-}
-
-void PlayersServer::received(QWebSocket *socket, const QString &text)
-{
-    Phone *phone = phoneOf(socket);
-    if (!phone)
-        return;
-    const qint64 now = Clock::instance().steadyMs();
-    phone->lastHeard = now;
-    if (throttled(*phone, now)) {
-        if (int(phone->recent.size()) > 2 * limits_.messagesPerSecond) {
-            drop(socket);
-            return;
-        }
-        if (int(phone->recent.size()) == limits_.messagesPerSecond + 1)
-            send(*phone, {{QStringLiteral("type"), QStringLiteral("error")}, {QStringLiteral("code"), QStringLiteral("busy")}});
-        return;
-    }
-    const std::optional<PlayerMessage> m = ParsePlayerMessage(text.toUtf8());
-    if (m)
-        act(*phone, *m, now);
-}
-
-void PlayersServer::act(Phone &phone, const PlayerMessage &m, qint64 arrivedMs)
-{
     if (m.type == PlayerMessage::Join) {
-        join(phone, m);
+        join(id, m);
         return;
     }
     if (m.type == PlayerMessage::Hello) {
-        if (!room_.find(m.token)) {
-            send(phone, {{QStringLiteral("type"), QStringLiteral("error")}, {QStringLiteral("code"), QStringLiteral("token")}});
-            return;
-        }
-        phone.token = m.token;
+        hello(id, m.token);
+        return;
     }
     // Everything else acts for the team of the phone's own token only.
-    const PhonePlayer *player = room_.find(phone.token);
+    const PhonePlayer *player = room_.find(phone->token);
     if (!player)
         return;
     switch (m.type) {
-    case PlayerMessage::Hello: {
-        const QString teamName = TeamName(player->team, state_.TeamNames[size_t(player->team)]);
-        send(phone, {{QStringLiteral("type"), QStringLiteral("joined")}, {QStringLiteral("token"), player->token},
-                     {QStringLiteral("team"), player->team}, {QStringLiteral("name"), player->name},
-                     {QStringLiteral("teamName"), teamName}, {QStringLiteral("color"), TeamColor(player->team).name()}});
-        phone.lastState.clear();
-        break;
-    }
     case PlayerMessage::Buzz:
         // A phone's buzz counts from when it arrived.
         if (buzzIn_)
@@ -339,15 +458,33 @@ void PlayersServer::act(Phone &phone, const PlayerMessage &m, qint64 arrivedMs)
         if (answers_)
             answers_->setResponse(player->team, m.text);
         break;
-    case PlayerMessage::Join: break;
+    case PlayerMessage::Join:
+    case PlayerMessage::Hello: break;
     }
     scheduleStates();
 }
 
-void PlayersServer::join(Phone &phone, const PlayerMessage &m)
+void PlayersServer::hello(quint64 id, const QString &token)
+{
+    const PhonePlayer *player = room_.find(token);
+    if (!player) {
+        send(id, {{QStringLiteral("type"), QStringLiteral("error")}, {QStringLiteral("code"), QStringLiteral("token")}});
+        return;
+    }
+    Phone &phone = phones_[id];
+    phone.token = token;
+    phone.lastState.clear();
+    send(id, {{QStringLiteral("type"), QStringLiteral("joined")}, {QStringLiteral("token"), player->token},
+              {QStringLiteral("team"), player->team}, {QStringLiteral("name"), player->name},
+              {QStringLiteral("teamName"), TeamName(player->team, state_.TeamNames[size_t(player->team)])},
+              {QStringLiteral("color"), TeamColor(player->team).name()}});
+    scheduleStates();
+}
+
+void PlayersServer::join(quint64 id, const PlayerMessage &m)
 {
     const auto error = [&](const char *code) {
-        send(phone, {{QStringLiteral("type"), QStringLiteral("error")}, {QStringLiteral("code"), QLatin1String(code)}});
+        send(id, {{QStringLiteral("type"), QStringLiteral("error")}, {QStringLiteral("code"), QLatin1String(code)}});
     };
     if (m.room != room_.code())
         return error("room");
@@ -356,12 +493,7 @@ void PlayersServer::join(Phone &phone, const PlayerMessage &m)
     const std::optional<PhonePlayer> player = room_.join(m.team, m.name);
     if (!player)
         return error("full");
-    act(phone, PlayerMessage{PlayerMessage::Hello, {}, 0, {}, player->token, 0, {}}, Clock::instance().steadyMs());
-}
-
-void PlayersServer::send(Phone &phone, const QJsonObject &message)
-{
-    phone.socket->sendTextMessage(QString::fromUtf8(QJsonDocument(message).toJson(QJsonDocument::Compact)));
+    hello(id, player->token);
 }
 
 void PlayersServer::attach(BoardGame *game, BuzzIn *buzzIn, TeamAnswers *answers)
@@ -377,25 +509,26 @@ void PlayersServer::attach(BoardGame *game, BuzzIn *buzzIn, TeamAnswers *answers
         connect(game, &BoardGame::openClueChanged, this, &PlayersServer::scheduleStates);
         connect(game, &BoardGame::scoreChanged, this, &PlayersServer::scheduleStates);
         connect(game, &BoardGame::thinkTimeStarted, this, &PlayersServer::scheduleStates);
-        const auto teamsChanged = [this] {
-            for (auto &p : phones_)
-                send(*p, teamsMessage("teams"));
-        };
-        connect(game, &BoardGame::teamsChanged, this, teamsChanged);
-        connect(game, &BoardGame::teamNameChanged, this, teamsChanged);
+        connect(game, &BoardGame::teamsChanged, this, &PlayersServer::sendTeams);
+        connect(game, &BoardGame::teamNameChanged, this, &PlayersServer::sendTeams);
         connect(buzzIn, &BuzzIn::changed, this, &PlayersServer::scheduleStates);
         connect(answers, &TeamAnswers::changed, this, &PlayersServer::scheduleStates);
     }
     scheduleStates();
 }
 
+void PlayersServer::sendTeams()
+{
+    const QByteArray teams = compact(teamsMessage("teams"));
+    for (auto it = phones_.cbegin(); it != phones_.cend(); ++it)
+        sendBytes(it.key(), teams);
+}
+
 void PlayersServer::setTeamCount(int teams)
 {
     teamCount_ = qBound(1, teams, 10);
-    if (!game_) {
-        for (auto &p : phones_)
-            send(*p, teamsMessage("teams"));
-    }
+    if (!game_)
+        sendTeams();
 }
 
 int PlayersServer::teamCount() const
@@ -415,10 +548,10 @@ QJsonObject PlayersServer::teamsMessage(const char *type) const
 
 void PlayersServer::removePlayer(const QString &token)
 {
-    for (auto &p : phones_) {
-        if (p->token == token) {
-            send(*p, {{QStringLiteral("type"), QStringLiteral("removed")}});
-            p->token.clear();
+    for (auto it = phones_.begin(); it != phones_.end(); ++it) {
+        if (it->token == token) {
+            send(it.key(), {{QStringLiteral("type"), QStringLiteral("removed")}});
+            it->token.clear();
         }
     }
     room_.remove(token);
@@ -432,7 +565,6 @@ void PlayersServer::scheduleStates()
     statesPending_ = true;
     QMetaObject::invokeMethod(this, &PlayersServer::sendStates, Qt::QueuedConnection);
 }
-
 QJsonObject PlayersServer::stateFor(int team) const
 {
     QJsonObject s{{QStringLiteral("type"), QStringLiteral("state")}};
@@ -498,37 +630,24 @@ void PlayersServer::sendStates()
     statesPending_ = false;
     std::array<QByteArray, 10> states;
     for (int t = 0; t < 10; ++t)
-        states[size_t(t)] = QJsonDocument(stateFor(t)).toJson(QJsonDocument::Compact);
-    for (auto &p : phones_) {
-        const PhonePlayer *player = room_.find(p->token);
+        states[size_t(t)] = compact(stateFor(t));
+    for (auto it = phones_.begin(); it != phones_.end(); ++it) {
+        const PhonePlayer *player = room_.find(it->token);
         if (!player)
             continue;
         // Only what changed goes out.
         const QByteArray &state = states[size_t(player->team)];
-        if (state != p->lastState) {
-            p->lastState = state;
-            p->socket->sendTextMessage(QString::fromUtf8(state));
+        if (state != it->lastState) {
+            it->lastState = state;
+            sendBytes(it.key(), state);
         }
     }
 }
 
 void PlayersServer::sweep()
 {
-    const qint64 now = Clock::instance().steadyMs();
-    if (tcp_)
-        tcp_->sweep(now);
-    std::vector<QWebSocket *> dead;
-    for (auto &p : phones_) {
-        if (now - p->lastHeard > limits_.deadAfterMs)
-            dead.push_back(p->socket.get());
-    }
-    for (QWebSocket *s : dead)
-        drop(s);
-    if (now - lastPing_ >= limits_.pingEveryMs) {
-        lastPing_ = now;
-        for (auto &p : phones_)
-            p->socket->ping();
-    }
+    if (PhoneLink *link = link_)
+        QMetaObject::invokeMethod(link, [link] { link->sweep(); }, Qt::BlockingQueuedConnection);
     // A lockout's end, the think music's seconds: states that move with time.
     sendStates();
 }

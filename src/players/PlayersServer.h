@@ -1,32 +1,36 @@
 // The players' server inside the game: the phones' page and its messages,
-// on one port of the room's network, with Qt HTTP Server and Qt WebSockets
-// on the user-interface thread (nothing blocks). It serves only the page's
-// own files, compiled into the program, and answers only the page's
-// messages; it is a watcher of the game (what each team may do now goes out
-// to its phones) and a source of buzzes, wagers and responses. Everything
-// that reaches it is hostile until checked: limits on size, rate and count
-// at the edge, and every message checked before it acts.
+// on one port of the room's network, with Qt HTTP Server and Qt WebSockets.
+// Two halves:
+//
+// - PhoneLink, on a network thread of its own, holds every connection: it
+//   serves only the page's own files (compiled into the program), keeps the
+//   limits on size, rate and count at the edge, pings, and checks every
+//   message before it goes on, stamped with the moment it arrived. Being
+//   alone on its thread, it reads a message as it comes even while the board
+//   paints, so buzzes made a millisecond apart keep their order.
+// - PlayersServer, on the game's thread, watches the game, acts on the
+//   checked messages for each phone's own team, and tells each team's
+//   phones what they may do now.
 #pragma once
 
 #include "game/PlayersRoom.h"
 
-#include <QAbstractHttpServer>
 #include <QHash>
 #include <QHostAddress>
 #include <QJsonObject>
 #include <QPointer>
+#include <QThread>
 #include <QTimer>
 
 #include <array>
-#include <deque>
 #include <memory>
 
 class BoardGame;
 class BuzzIn;
-class GuardedTcpServer;
-class QWebSocket;
+class PhoneLink;
 class TeamAnswers;
 struct GameState;
+struct PlayerMessage;
 
 struct ServerLimits {
     int mostConnections = 400;
@@ -38,12 +42,13 @@ struct ServerLimits {
     qint64 deadAfterMs = 20'000;          // no answer to pings this long: gone
 };
 
-class PlayersServer : public QAbstractHttpServer {
+class PlayersServer : public QObject {
     Q_OBJECT
 public:
     PlayersServer(PlayersRoom &room, const GameState &state, QObject *parent = nullptr);
     ~PlayersServer() override;
 
+    // Before start: other limits (tests).
     void setLimits(const ServerLimits &limits) { limits_ = limits; }
 
     // Listens on every address of this machine, on the room's port if it
@@ -52,7 +57,7 @@ public:
     static constexpr quint16 kPreferredPort = 47'110;
     quint16 start(const QHostAddress &address = QHostAddress::Any);
     void stop();
-    bool running() const;
+    bool running() const { return link_ != nullptr; }
 
     // The page's address for phones on the room's network.
     QString address() const;
@@ -68,50 +73,44 @@ public:
     // Connections open to phones (for the host and for tests).
     int phoneConnections() const { return int(phones_.size()); }
 
-    // Time passed: pings, dead phones and slow clients dropped, states that
-    // changed with the time (a short lockout ending) sent. A timer calls it;
-    // tests may too.
+    // Time passed: pings, dead phones and slow clients dropped (on the
+    // network thread, waited for), and states that changed with the time
+    // (a short lockout ending) sent. A timer calls it; tests may too.
     void sweep();
 
 signals:
     void playersChanged();
 
-protected:
-    bool handleRequest(const QHttpServerRequest &request, QTcpSocket *socket) override;
-    void missingHandler(const QHttpServerRequest &request, QTcpSocket *socket) override;
-
 private:
     struct Phone {
-        std::unique_ptr<QWebSocket> socket;
         QString token;
-        std::deque<qint64> recent; // the moments of the last messages
-        qint64 lastHeard = 0;
         QByteArray lastState;
     };
 
-    void acceptPhones();
-    void received(QWebSocket *socket, const QString &text);
-    void act(Phone &phone, const struct PlayerMessage &m, qint64 arrivedMs);
-    void join(Phone &phone, const PlayerMessage &m);
-    void send(Phone &phone, const QJsonObject &message);
+    void connected(quint64 id);
+    void disconnected(quint64 id);
+    void received(quint64 id, const PlayerMessage &m, qint64 arrivedMs);
+    void join(quint64 id, const PlayerMessage &m);
+    void hello(quint64 id, const QString &token);
+    void send(quint64 id, const QJsonObject &message);
+    void sendBytes(quint64 id, const QByteArray &bytes);
     void sendStates();
     void scheduleStates();
+    void sendTeams();
     QJsonObject stateFor(int team) const;
+    void stopLink(PhoneLink *link);
     QJsonObject teamsMessage(const char *type) const;
-    Phone *phoneOf(QWebSocket *socket);
-    void drop(QWebSocket *socket);
-    bool throttled(Phone &phone, qint64 now);
 
     PlayersRoom &room_;
     const GameState &state_;
     ServerLimits limits_;
-    GuardedTcpServer *tcp_ = nullptr;
-    std::vector<std::unique_ptr<Phone>> phones_;
+    QThread network_;
+    PhoneLink *link_ = nullptr; // lives on network_
+    QHash<quint64, Phone> phones_;
     QPointer<BoardGame> game_;
     QPointer<BuzzIn> buzzIn_;
     QPointer<TeamAnswers> answers_;
     int teamCount_ = 3;
     bool statesPending_ = false;
     QTimer sweeper_;
-    qint64 lastPing_ = 0;
 };

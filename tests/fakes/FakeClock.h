@@ -6,6 +6,8 @@
 
 #include <QList>
 
+#include <atomic>
+
 #include <functional>
 #include <random>
 
@@ -37,6 +39,7 @@ public:
 
 private:
     qint64 startSeconds_ = 1'000'000;
-    qint64 elapsedMs_ = 0;
+    // Read by the players' server's network thread too.
+    std::atomic<qint64> elapsedMs_ = 0;
     std::mt19937 engine_;
 };
