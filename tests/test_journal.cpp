@@ -288,6 +288,29 @@ private slots:
         }
     }
 
+    // Phones that were on come back on with the game, with the same room
+    // and players, so that the phones find their teams by themselves.
+    void aResumeBringsThePhonesBack()
+    {
+        openHome(state_);
+        home_->setPhonesOn(true);
+        QVERIFY(home_->phones().isOn());
+        const QString code = home_->phones().room()->code();
+        home_->phones().room()->join(1, QStringLiteral("Ana"));
+        home_->cmbScore->setCurrentIndex(2);
+        home_->lstQuestions->setCurrentRow(0);
+        home_->cmdStart->click();
+        press(board()->game(), 7);
+        QCOMPARE(onDisk()->room, code);
+        crash();
+        GameState next;
+        boxes_->answers = {MsgBoxResult::Yes};
+        QVERIFY(openHome(next)->offerResume());
+        QVERIFY(home_->phones().isOn());
+        QCOMPARE(home_->phones().room()->code(), code);
+        QCOMPARE(home_->phones().room()->players().value(0).name, QStringLiteral("Ana"));
+    }
+
     // The journal goes with every way a game ends, and a game in which
     // nothing happened is not worth a question.
     void everyEndRemovesTheJournal_data()
