@@ -79,18 +79,19 @@ void JoinScreen::paintEvent(QPaintEvent *)
         }
     }
     const QRectF text(frame.right() + w * 0.05, frame.top(), w - frame.right() - w * 0.09, side);
-    p.setFont(fitted(unit * 1.1, QStringLiteral("Play on your phone"), text.width()));
-    shadowed(p, QRectF(text.left(), text.top(), text.width(), text.height() * 0.16), QStringLiteral("Play on your phone"),
+    const QString title = tr("Play on your phone");
+    p.setFont(fitted(unit * 1.1, title, text.width()));
+    shadowed(p, QRectF(text.left(), text.top(), text.width(), text.height() * 0.16), title,
              kGold, Qt::AlignLeft | Qt::AlignVCenter);
     p.setFont(ArialFont(unit * 0.55, false));
     shadowed(p, QRectF(text.left(), text.top() + text.height() * 0.18, text.width(), text.height() * 0.1),
-             QStringLiteral("Scan the code, or open:"), Qt::white, Qt::AlignLeft | Qt::AlignVCenter);
+             tr("Scan the code, or open:"), Qt::white, Qt::AlignLeft | Qt::AlignVCenter);
     p.setFont(fitted(unit * 0.9, address_, text.width()));
     shadowed(p, QRectF(text.left(), text.top() + text.height() * 0.28, text.width(), text.height() * 0.14), address_,
              Qt::white, Qt::AlignLeft | Qt::AlignVCenter);
     p.setFont(ArialFont(unit * 0.55, false));
     shadowed(p, QRectF(text.left(), text.top() + text.height() * 0.5, text.width(), text.height() * 0.1),
-             QStringLiteral("Room code:"), Qt::white, Qt::AlignLeft | Qt::AlignVCenter);
+             tr("Room code:"), Qt::white, Qt::AlignLeft | Qt::AlignVCenter);
     QFont code = fitted(unit * 2.6, code_, text.width());
     code.setLetterSpacing(QFont::PercentageSpacing, 115);
     p.setFont(code);
@@ -98,7 +99,7 @@ void JoinScreen::paintEvent(QPaintEvent *)
              Qt::AlignLeft | Qt::AlignVCenter);
     p.setFont(ArialFont(unit * 0.5, false));
     shadowed(p, QRectF(text.left(), text.top() + text.height() * 0.88, text.width(), text.height() * 0.12),
-             joined_ == 1 ? QStringLiteral("1 player has joined") : QStringLiteral("%1 players have joined").arg(joined_),
+             joined_ == 1 ? tr("1 player has joined") : tr("%1 players have joined").arg(joined_),
              Qt::white, Qt::AlignLeft | Qt::AlignVCenter);
 }
 
@@ -132,12 +133,12 @@ void RevealPanel::paintEvent(QPaintEvent *)
     const qreal w = width() * 0.9, x = width() * 0.05, h = height();
     p.setFont(fitted(h * 0.13, name_, w));
     shadowed(p, QRectF(x, h * 0.06, w, h * 0.24), name_, TeamColor(team_), Qt::AlignCenter);
-    const QString said = response_.isEmpty() ? QStringLiteral("(no response)") : QStringLiteral("\u201c%1\u201d").arg(response_);
+    const QString said = response_.isEmpty() ? tr("(no response)") : tr("“%1”").arg(response_);
     p.setFont(ArialFont(h * 0.07, true));
     shadowed(p, QRectF(x, h * 0.32, w, h * 0.34), said, Qt::white, Qt::AlignCenter | Qt::TextWordWrap);
     p.setFont(ArialFont(h * 0.08, true));
     shadowed(p, QRectF(x, h * 0.68, w * 0.5, h * 0.24), QStringLiteral("$ ") + FormatScore(qint32(wager_)), kGold,
              Qt::AlignCenter);
-    shadowed(p, QRectF(x + w * 0.5, h * 0.68, w * 0.5, h * 0.24), right_ ? QStringLiteral("Right!") : QStringLiteral("Wrong"),
+    shadowed(p, QRectF(x + w * 0.5, h * 0.68, w * 0.5, h * 0.24), right_ ? tr("Right!") : tr("Wrong"),
              right_ ? QColor(120, 255, 140) : QColor(255, 110, 110), Qt::AlignCenter);
 }

@@ -40,7 +40,7 @@ frmMain::~frmMain() = default;
 void frmMain::warnBeforeStart(const Libraries &libraries)
 {
     if (libraries.hSoundLib && basDetectDevEnv::IsRunningCompiled())
-        MsgBox(QStringLiteral("Please wait until all sounds playing have stopped, then click OK to start!"),
+        MsgBox(tr("Please wait until all sounds playing have stopped, then click OK to start!"),
                MsgBoxStyle::OKOnly | MsgBoxStyle::Exclamation, applicationTitle());
 }
 

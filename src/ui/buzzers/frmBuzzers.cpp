@@ -26,14 +26,14 @@ frmBuzzers::frmBuzzers(BuzzerInputs &inputs, const GameState &state, QWidget *pa
     : QWidget(parent, Qt::Window), inputs_(inputs), state_(state)
 {
     setObjectName(QStringLiteral("frmBuzzers"));
-    setWindowTitle(QStringLiteral("Buzzers"));
+    setWindowTitle(tr("Buzzers"));
     setAttribute(Qt::WA_StyledBackground);
     setStyleSheet(QLatin1String(kStyle) + QStringLiteral("QWidget { font-family: Arial; font-size: 11pt; }"));
     auto *layout = new QGridLayout(this);
-    auto *intro = new QLabel(QStringLiteral("Press Learn beside a team, then press that team's buzzer: a key of a "
-                                            "buzzer box or of the keyboard, or a button of a joystick or game "
-                                            "controller. The game's own keys (the digits, BackSpace, Space, + and "
-                                            "\u2212) cannot be buzzers."),
+    auto *intro = new QLabel(tr("Press Learn beside a team, then press that team's buzzer: a key of a "
+                                "buzzer box or of the keyboard, or a button of a joystick or game "
+                                "controller. The game's own keys (the digits, BackSpace, Space, + and "
+                                "−) cannot be buzzers."),
                              this);
     intro->setWordWrap(true);
     layout->addWidget(intro, 0, 0, 1, 4);
@@ -45,9 +45,9 @@ frmBuzzers::frmBuzzers(BuzzerInputs &inputs, const GameState &state, QWidget *pa
         lblTeam[size_t(t)] = new QLabel(this);
         lblBuzzer[size_t(t)] = new QLabel(this);
         lblBuzzer[size_t(t)]->setObjectName(QStringLiteral("lblBuzzer(%1)").arg(t));
-        cmdLearn[size_t(t)] = new QPushButton(QStringLiteral("Learn"), this);
+        cmdLearn[size_t(t)] = new QPushButton(tr("Learn"), this);
         cmdLearn[size_t(t)]->setObjectName(QStringLiteral("cmdLearn(%1)").arg(t));
-        cmdClear[size_t(t)] = new QPushButton(QStringLiteral("Clear"), this);
+        cmdClear[size_t(t)] = new QPushButton(tr("Clear"), this);
         cmdClear[size_t(t)]->setObjectName(QStringLiteral("cmdClear(%1)").arg(t));
         // The buttons never take the focus: a buzzer box's key must reach
         // the learning, not press a button.
@@ -68,7 +68,7 @@ frmBuzzers::frmBuzzers(BuzzerInputs &inputs, const GameState &state, QWidget *pa
     lblJoysticks->setObjectName(QStringLiteral("lblJoysticks"));
     lblJoysticks->setWordWrap(true);
     layout->addWidget(lblJoysticks, 12, 0, 1, 4);
-    auto *close = new QPushButton(QStringLiteral("Close"), this);
+    auto *close = new QPushButton(tr("Close"), this);
     close->setFocusPolicy(Qt::NoFocus);
     connect(close, &QPushButton::clicked, this, &QWidget::close);
     layout->addWidget(close, 13, 3);
@@ -85,24 +85,23 @@ void frmBuzzers::refresh()
 {
     const int learning = inputs_.learning();
     lblStatus->setText(learning >= 0 ? (refusal_.isEmpty() ? QString() : refusal_ + QLatin1Char(' ')) +
-                                           QStringLiteral("Press %1's buzzer now (Escape: stop).")
+                                           tr("Press %1's buzzer now (Escape: stop).")
                                                .arg(TeamName(learning, state_.TeamNames[size_t(learning)]))
-                                     : QStringLiteral("Buzz-in is %1.").arg(inputs_.settings().buzzIn ? QStringLiteral("on")
-                                                                                                      : QStringLiteral("off")));
+                                     : (inputs_.settings().buzzIn ? tr("Buzz-in is on.") : tr("Buzz-in is off.")));
     for (int t = 0; t < 10; ++t) {
         lblTeam[size_t(t)]->setText(TeamName(t, state_.TeamNames[size_t(t)]));
         lblTeam[size_t(t)]->setStyleSheet(QStringLiteral("color: %1; font-weight: bold;").arg(TeamColor(t).name()));
         const BuzzerInput &b = inputs_.settings().teams[size_t(t)];
-        lblBuzzer[size_t(t)]->setText(t == learning ? QStringLiteral("waiting for a press\u2026")
-                                      : b.kind == BuzzerInput::None ? QStringLiteral("none") : b.describe());
-        cmdLearn[size_t(t)]->setText(t == learning ? QStringLiteral("Stop") : QStringLiteral("Learn"));
+        lblBuzzer[size_t(t)]->setText(t == learning ? tr("waiting for a press…")
+                                      : b.kind == BuzzerInput::None ? tr("none") : b.describe());
+        cmdLearn[size_t(t)]->setText(t == learning ? tr("Stop") : tr("Learn"));
         cmdClear[size_t(t)]->setEnabled(b.kind != BuzzerInput::None);
     }
     const QStringList joysticks = inputs_.joysticks();
     lblJoysticks->setText(!inputs_.joysticksAvailable() && !inputs_.joysticksWhy().isEmpty()
-                              ? QStringLiteral("Joysticks cannot be read: ") + inputs_.joysticksWhy() + QLatin1Char('.')
-                          : joysticks.isEmpty() ? QStringLiteral("No joystick or game controller is plugged in.")
-                                                : QStringLiteral("Plugged in: ") + joysticks.join(QStringLiteral(", ")));
+                              ? tr("Joysticks cannot be read: %1.").arg(inputs_.joysticksWhy())
+                          : joysticks.isEmpty() ? tr("No joystick or game controller is plugged in.")
+                                                : tr("Plugged in: %1").arg(joysticks.join(QStringLiteral(", "))));
 }
 
 void frmBuzzers::closeEvent(QCloseEvent *event)

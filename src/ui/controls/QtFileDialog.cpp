@@ -2,6 +2,7 @@
 
 #include "platform/clsOpenSaveDlgFlags.h"
 
+#include <QCoreApplication>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
@@ -38,17 +39,17 @@ bool acceptable(const FileDialogRequest &r, const QString &path, QWidget *dialog
     // dialog refuses it, before the caller tries to write there.
     if ((r.flags & Flags::OFN_PATHMUSTEXIST) && !QFileInfo(file.absolutePath()).isDir()) {
         QMessageBox::warning(dialog, dialog->windowTitle(),
-                             path + QStringLiteral("\nThe folder does not exist.\nCheck the path and try again."));
+                             QCoreApplication::translate("QtFileDialog", "%1\nThe folder does not exist.\nCheck the path and try again.").arg(path));
         return false;
     }
     if (r.save && (r.flags & Flags::OFN_NOREADONLYRETURN) && file.exists() && !file.isWritable()) {
         QMessageBox::warning(dialog, dialog->windowTitle(),
-                             path + QStringLiteral("\nThis file is set to read-only.\nTry again with a different file name."));
+                             QCoreApplication::translate("QtFileDialog", "%1\nThis file is set to read-only.\nTry again with a different file name.").arg(path));
         return false;
     }
     if (!r.save && !file.exists() && (r.flags & Flags::OFN_CREATEPROMPT) && !(r.flags & Flags::OFN_FILEMUSTEXIST)) {
         return QMessageBox::question(dialog, dialog->windowTitle(),
-                                     path + QStringLiteral("\nThis file does not exist.\nDo you want to create it?")) ==
+                                     QCoreApplication::translate("QtFileDialog", "%1\nThis file does not exist.\nDo you want to create it?").arg(path)) ==
                QMessageBox::Yes;
     }
     return true;

@@ -14,7 +14,7 @@
 frmHowToPlay::frmHowToPlay(QWidget *parent) : QWidget(parent)
 {
     setAttribute(Qt::WA_DeleteOnClose);
-    setWindowTitle(QStringLiteral("How To Play Quizzarr!"));
+    setWindowTitle(tr("How To Play Quizzarr!"));
     setFont(ArialFont(11));
 
     vseButtons = new CaptionControl(this);

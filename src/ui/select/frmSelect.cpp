@@ -40,11 +40,14 @@
 
 namespace {
 
-const QStringList kTeamCounts{
-    QStringLiteral("No scoring"), QStringLiteral("One team"),   QStringLiteral("Two teams"),
-    QStringLiteral("Three teams"), QStringLiteral("Four teams"), QStringLiteral("Five teams"),
-    QStringLiteral("Six teams"),  QStringLiteral("Seven teams"), QStringLiteral("Eight teams"),
-    QStringLiteral("Nine teams"), QStringLiteral("Ten teams!")};
+// Translated where they are used: the list is made before any language is.
+const char *const kTeamCounts[] = {
+    QT_TRANSLATE_NOOP("frmSelect", "No scoring"),  QT_TRANSLATE_NOOP("frmSelect", "One team"),
+    QT_TRANSLATE_NOOP("frmSelect", "Two teams"),   QT_TRANSLATE_NOOP("frmSelect", "Three teams"),
+    QT_TRANSLATE_NOOP("frmSelect", "Four teams"),  QT_TRANSLATE_NOOP("frmSelect", "Five teams"),
+    QT_TRANSLATE_NOOP("frmSelect", "Six teams"),   QT_TRANSLATE_NOOP("frmSelect", "Seven teams"),
+    QT_TRANSLATE_NOOP("frmSelect", "Eight teams"), QT_TRANSLATE_NOOP("frmSelect", "Nine teams"),
+    QT_TRANSLATE_NOOP("frmSelect", "Ten teams!")};
 
 } // namespace
 
@@ -54,7 +57,7 @@ frmSelect::frmSelect(GameState &state, Libraries &libraries, QWidget *parent, st
     setAttribute(Qt::WA_DeleteOnClose);
     // The backdrop covers every pixel: Qt need not fill the window first.
     setAttribute(Qt::WA_OpaquePaintEvent);
-    setWindowTitle(QStringLiteral("Select the question set to use"));
+    setWindowTitle(tr("Select the question set to use"));
     createControls();
     resize(640, 480);
     CentreOnScreen(*this);
@@ -121,7 +124,7 @@ void frmSelect::createControls()
     lstQuestions->setSelectionMode(QAbstractItemView::SingleSelection);
     connect(lstQuestions, &QListWidget::itemDoubleClicked, this, [this] { cmdStart_Click(); });
 
-    lblScore = new QLabel(QStringLiteral("Keep score for:"), this);
+    lblScore = new QLabel(tr("Keep score for:"), this);
     lblScore->setFont(ArialFont(12));
     // White on the backdrop; a palette, not a style sheet, which would
     // bring Qt's style sheet machinery into the start for one colour.
@@ -130,7 +133,8 @@ void frmSelect::createControls()
     lblScore->setPalette(white);
     cmbScore = new QComboBox(this);
     cmbScore->setFont(ArialFont(9.75));
-    cmbScore->addItems(kTeamCounts);
+    for (const char *count : kTeamCounts)
+        cmbScore->addItem(tr(count));
     createButtons();
     createMenus();
     createBuzzerControls();
@@ -143,16 +147,16 @@ void frmSelect::createControls()
 
 void frmSelect::createBuzzerControls()
 {
-    chkBuzzIn = new QCheckBox(QStringLiteral("Buzz in"), this);
+    chkBuzzIn = new QCheckBox(tr("Buzz in"), this);
     chkBuzzIn->setFont(ArialFont(9.75));
     chkBuzzIn->setPalette(lblScore->palette());
     chkBuzzIn->setChecked(buzzers_.settings().buzzIn);
     connect(chkBuzzIn, &QCheckBox::toggled, &buzzers_, &BuzzerInputs::setBuzzIn);
     connect(&buzzers_, &BuzzerInputs::changed, this, [this] { chkBuzzIn->setChecked(buzzers_.settings().buzzIn); });
-    cmdBuzzers = new QPushButton(QStringLiteral("Buzzers\u2026"), this);
+    cmdBuzzers = new QPushButton(tr("Buzzers\u2026"), this);
     cmdBuzzers->setFont(ArialFont(9.75));
     connect(cmdBuzzers, &QPushButton::clicked, this, &frmSelect::openBuzzers);
-    chkPhones = new QCheckBox(QStringLiteral("Phones"), this);
+    chkPhones = new QCheckBox(tr("Phones"), this);
     chkPhones->setFont(ArialFont(9.75));
     chkPhones->setPalette(lblScore->palette());
     connect(chkPhones, &QCheckBox::clicked, this, &frmSelect::setPhonesOn);
@@ -170,7 +174,7 @@ void frmSelect::createBuzzerControls()
 void frmSelect::setPhonesOn(bool on)
 {
     if (!phones_.turnOn(on)) {
-        MsgBox(QStringLiteral("The phones cannot be used: no network port from %1 on is free on this computer.")
+        MsgBox(tr("The phones cannot be used: no network port from %1 on is free on this computer.")
                    .arg(PlayersServer::kPreferredPort),
                MsgBoxStyle::OKOnly | MsgBoxStyle::Exclamation, applicationTitle());
         return;
@@ -202,17 +206,17 @@ void frmSelect::createButtons()
 {
     vseButtons = new CaptionControl(this);
     vseButtons->setDesignSize(QSizeF(7332, 732));
-    cmdStart = new CommandButton(QStringLiteral("Start Game"));
-    cmdEditor = new CommandButton(QStringLiteral("Question Editor/Creator"));
-    cmdHowToPlay = new CommandButton(QStringLiteral("How To Play"));
+    cmdStart = new CommandButton(tr("Start Game"));
+    cmdEditor = new CommandButton(tr("Question Editor/Creator"));
+    cmdHowToPlay = new CommandButton(tr("How To Play"));
     vseButtons->addChild(cmdStart, QRectF(0, 0, 2250, 732));
     vseButtons->addChild(cmdEditor, QRectF(2550, 0, 2250, 732));
     vseButtons->addChild(cmdHowToPlay, QRectF(5100, 0, 2235, 732));
 
     vseImportExport = new CaptionControl(this);
     vseImportExport->setDesignSize(QSizeF(732, 1932));
-    cmdExport = new CommandButton(QStringLiteral(">> Export File"));
-    cmdImport = new CommandButton(QStringLiteral("<< Import File(s)"));
+    cmdExport = new CommandButton(tr(">> Export File"));
+    cmdImport = new CommandButton(tr("<< Import File(s)"));
     vseImportExport->addChild(cmdExport, QRectF(0, 0, 732, 825));
     vseImportExport->addChild(cmdImport, QRectF(0, 1125, 732, 810));
 
@@ -282,7 +286,7 @@ bool frmSelect::checkSelectedEntry()
 {
     QListWidgetItem *entry = selectedEntry();
     if (!entry) {
-        MsgBox(QStringLiteral("Please select a question set to use before starting the game."),
+        MsgBox(tr("Please select a question set to use before starting the game."),
                MsgBoxStyle::OKOnly | MsgBoxStyle::Information, applicationTitle());
         return false;
     }
@@ -294,7 +298,7 @@ bool frmSelect::checkSelectedEntry()
     lstQuestions->clearSelection();
     lstQuestions->setCurrentRow(-1);
     if (lstQuestions->count() == 0) {
-        MsgBox(QStringLiteral("I'm sorry, but I am unable to locate any valid .QZ2 files."),
+        MsgBox(tr("I'm sorry, but I am unable to locate any valid .QZ2 files."),
                MsgBoxStyle::OKOnly | MsgBoxStyle::Critical, applicationTitle());
         libraries_.ShutdownLibraries();
     }
@@ -399,9 +403,8 @@ void frmSelect::cmdEditor_Click()
     QString fileToLoad;
     if (QListWidgetItem *entry = selectedEntry()) {
         const MsgBoxResult answer =
-            MsgBox(QStringLiteral("Click YES to edit ") + EntryFileName(entry->text()) +
-                       QStringLiteral(", else click NO to create a new Question set."),
-                   MsgBoxStyle::YesNo | MsgBoxStyle::Question, QStringLiteral("Question Editor/Creator"));
+            MsgBox(tr("Click YES to edit %1, else click NO to create a new Question set.").arg(EntryFileName(entry->text())),
+                   MsgBoxStyle::YesNo | MsgBoxStyle::Question, tr("Question Editor/Creator"));
         if (answer == MsgBoxResult::Yes)
             fileToLoad = GetEntryPath(entry);
     }

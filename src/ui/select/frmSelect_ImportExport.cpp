@@ -13,6 +13,7 @@
 #include "questions/QuestionSet.h"
 #include "questions/clsOpenSaveDlg.h"
 
+#include <QCoreApplication>
 #include <QCursor>
 #include <QListWidget>
 #include <QMenu>
@@ -24,7 +25,7 @@ void prepare(clsOpenSaveDlg &dialog, uintptr_t owner, const QString &title, cons
 {
     dialog.setHwndOwner(owner);
     dialog.setWindowTitle(title);
-    dialog.setFilter(QStringLiteral("PLOV(tm) Quizzarr! QA Files (*.QZ2)|*.QZ2"));
+    dialog.setFilter(QCoreApplication::translate("frmSelect", "PLOV(tm) Quizzarr! QA Files (*.QZ2)|*.QZ2"));
     dialog.setInitialDir(folder);
     dialog.Flags().setAllowMultiSelect(false);
     dialog.Flags().setExplorer(true);
@@ -39,12 +40,12 @@ void prepare(clsOpenSaveDlg &dialog, uintptr_t owner, const QString &title, cons
 void frmSelect::createMenus()
 {
     // Pop-up menus only: they never stand on a menu bar.
-    mnuExport = new QMenu(QStringLiteral("Export"), this);
-    mnuExportFloppy = mnuExport->addAction(QStringLiteral("To a floppy disk (A:)..."));
-    mnuExportAnother = mnuExport->addAction(QStringLiteral("To another drive..."));
-    mnuImport = new QMenu(QStringLiteral("Import"), this);
-    mnuImportFloppy = mnuImport->addAction(QStringLiteral("From a floppy disk (A:)..."));
-    mnuImportAnother = mnuImport->addAction(QStringLiteral("From another drive..."));
+    mnuExport = new QMenu(tr("Export"), this);
+    mnuExportFloppy = mnuExport->addAction(tr("To a floppy disk (A:)..."));
+    mnuExportAnother = mnuExport->addAction(tr("To another drive..."));
+    mnuImport = new QMenu(tr("Import"), this);
+    mnuImportFloppy = mnuImport->addAction(tr("From a floppy disk (A:)..."));
+    mnuImportAnother = mnuImport->addAction(tr("From another drive..."));
     // Where the old game said "A:\", a removable disk of this computer.
     connect(mnuExportFloppy, &QAction::triggered, this, [this] { ExportQuestionSet(SpecialFolders::removableMedia()); });
     connect(mnuExportAnother, &QAction::triggered, this, [this] { ExportQuestionSet(QString()); });
@@ -64,7 +65,7 @@ void frmSelect::ExportQuestionSet(const QString &InitialFolder)
     const QString folder = InitialFolder.isEmpty()
                                ? clsShellFolders().GetExistingSpecialFolder(uintptr_t(winId()), SpecialFolders::kDesktop)
                                : InitialFolder;
-    prepare(dialog, uintptr_t(winId()), QStringLiteral("Export Question File To"), folder);
+    prepare(dialog, uintptr_t(winId()), tr("Export Question File To"), folder);
     dialog.setFileName(EntryFileName(entry->text()));
     if (!dialog.ShowSaveAs())
         return;
@@ -73,7 +74,7 @@ void frmSelect::ExportQuestionSet(const QString &InitialFolder)
     if (!error)
         error = CopySetPictures(source, dialog.FileName());
     if (error)
-        MsgBox(QStringLiteral("Export File Failure\r\n") + error.description, MsgBoxStyle::OKOnly, applicationTitle());
+        MsgBox(tr("Export File Failure\r\n%1").arg(error.description), MsgBoxStyle::OKOnly, applicationTitle());
 }
 
 void frmSelect::ImportQuestionSet(const QString &InitialFolder)
@@ -86,7 +87,7 @@ void frmSelect::ImportQuestionSet(const QString &InitialFolder)
     const QString folder = InitialFolder.isEmpty()
                                ? clsShellFolders().GetExistingSpecialFolder(uintptr_t(winId()), SpecialFolders::kDesktop)
                                : InitialFolder;
-    prepare(dialog, uintptr_t(winId()), QStringLiteral("Select Question File To Import"), folder);
+    prepare(dialog, uintptr_t(winId()), tr("Select Question File To Import"), folder);
     if (!dialog.ShowOpen())
         return;
     const QString target = documents + dialog.FileNameExtOnly();
@@ -94,6 +95,6 @@ void frmSelect::ImportQuestionSet(const QString &InitialFolder)
     if (!error)
         error = CopySetPictures(dialog.FileName(), target);
     if (error)
-        MsgBox(QStringLiteral("Import File Failure\r\n") + error.description, MsgBoxStyle::OKOnly, applicationTitle());
+        MsgBox(tr("Import File Failure\r\n%1").arg(error.description), MsgBoxStyle::OKOnly, applicationTitle());
     PopulateQZ2();
 }

@@ -16,11 +16,9 @@
 
 namespace {
 
-void reportMissing(const QString &path, const char *without)
+void reportMissing(const QString &message)
 {
-    MsgBox(QStringLiteral("Unable to load ") + path + QStringLiteral(". The game will still work, but with no ") +
-               QLatin1String(without) + QLatin1Char('.'),
-           MsgBoxStyle::OKOnly, applicationTitle());
+    MsgBox(message, MsgBoxStyle::OKOnly, applicationTitle());
 }
 
 } // namespace
@@ -35,7 +33,7 @@ void Main(GameState &state, Libraries &libraries, StartupPrefetch *ahead)
     // while the libraries bind and the home screen is built; whichever
     // thread asks first, the other finds it done.
     const std::future<void> fonts = OnAnotherCore([] {
-        QFontMetricsF(ArialFont(9.75)).horizontalAdvance(QStringLiteral("Keep score for:"));
+        QFontMetricsF(ArialFont(9.75)).horizontalAdvance(QCoreApplication::translate("frmSelect", "Keep score for:"));
     });
     const QScreen *screen = QGuiApplication::primaryScreen();
     state.choosePictures(pictureIdsForScreenWidth(screen ? screen->size().width() : 1024.0));
@@ -45,12 +43,12 @@ void Main(GameState &state, Libraries &libraries, StartupPrefetch *ahead)
     if (libraries.hPictureLib)
         libraries.hPictureLib->prefetch({frmSelect::kBannerPicture}); // while the rest starts
     else
-        reportMissing(pictures, "graphics");
+        reportMissing(QCoreApplication::translate("basPLOVQuzr", "Unable to load %1. The game will still work, but with no graphics.").arg(pictures));
 
     const QString sounds = Libraries::SoundLibraryPath();
     libraries.hSoundLib = SoundLibrary::load(sounds);
     if (!libraries.hSoundLib)
-        reportMissing(sounds, "sounds");
+        reportMissing(QCoreApplication::translate("basPLOVQuzr", "Unable to load %1. The game will still work, but with no sounds.").arg(sounds));
 
     state.Round = 1;
     std::function<SetListing()> listing;
