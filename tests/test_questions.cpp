@@ -51,7 +51,7 @@ QString randomText(QRandomGenerator &rng, bool eightBitOnly)
 
 QString programFile(const char *name)
 {
-    return QStringLiteral(QUIZZARR_PROGRAM_DIR "/") + QLatin1String(name);
+    return QStringLiteral(QUIZZARR_PROGRAM_DIR "/") + QString::fromUtf8(name);
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 #include "shell/StartupPrefetch.h"
 #include "ui/controls/QtFileDialog.h"
 #include "ui/controls/QtMsgBox.h"
+#include "ui/shell/Translations.h"
 #include "ui/shell/WindowIcon.h"
 #include "ui/shell/basPLOVQuzr.h"
 
@@ -25,6 +26,8 @@ int main(int argc, char **argv)
     // theme holds its icon; from a build folder neither is there, and the
     // window simply goes without.
     QApplication::setDesktopFileName(QStringLiteral(QUIZZARR_APP_ID));
+    // Before the first window: every text is read in the desktop's language.
+    InstallTranslations(QLocale::system());
     SetWindowIconAfterFirstPaint(QStringLiteral("quizzarr"));
     // The home screen hides while a game, the editor or the help is open,
     // and message boxes come and go in between: the program ends when the

@@ -10,7 +10,7 @@
 void BoardGame::EndOfGame()
 {
     if (state_.Teams >= 1)
-        MsgBox(StandingsText(state_.Teams, settings_.Scores, settings_.TeamNames), MsgBoxStyle::OKOnly, QStringLiteral("Scores"));
+        MsgBox(StandingsText(state_.Teams, settings_.Scores, settings_.TeamNames), MsgBoxStyle::OKOnly, tr("Scores"));
     libraries_.PlayGameSound(106, false);
     endGame();
 }

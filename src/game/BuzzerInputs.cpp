@@ -19,8 +19,8 @@ QString settingsFile()
 QString BuzzerInput::describe() const
 {
     switch (kind) {
-    case Key: return QStringLiteral("key ") + QKeySequence(key).toString(QKeySequence::NativeText);
-    case Button: return deviceName + QStringLiteral(", button ") + QString::number(button + 1);
+    case Key: return BuzzerInputs::tr("key %1").arg(QKeySequence(key).toString(QKeySequence::NativeText));
+    case Button: return BuzzerInputs::tr("%1, button %2").arg(deviceName, QString::number(button + 1));
     case None: break;
     }
     return QString();
@@ -198,7 +198,7 @@ bool BuzzerInputs::keyPressed(const QKeyEvent &event)
             return true;
         }
         if (IsGameKey(input.key, event.modifiers())) {
-            emit refused(input.describe() + QStringLiteral(" is one of the game's own keys; press another."));
+            emit refused(tr("%1 is one of the game's own keys; press another.").arg(input.describe()));
             return true;
         }
         take(input, 0);

@@ -376,15 +376,15 @@ ResumeOffer GameJournal::offer()
     if (fingerprint.isEmpty() || fingerprint != record->fingerprint) {
         remove();
         offer.kind = ResumeOffer::Gone;
-        offer.text = QStringLiteral("The question set ") + record->questionFile +
-                     QStringLiteral(" has changed or is gone since the game was interrupted, so the game cannot be "
-                                    "resumed.");
+        offer.text = tr("The question set %1 has changed or is gone since the game was interrupted, so the game "
+                        "cannot be resumed.")
+                         .arg(record->questionFile);
         return offer;
     }
     offer.kind = ResumeOffer::Resume;
     offer.record = *record;
-    offer.text = QStringLiteral("Resume the interrupted game of ") + record->description + QStringLiteral("?\r\n\r\n") +
-                 (record->round >= 3 ? QStringLiteral("The final") : QStringLiteral("Round %1").arg(record->round));
+    offer.text = tr("Resume the interrupted game of %1?\r\n\r\n%2")
+                     .arg(record->description, record->round >= 3 ? tr("The final") : tr("Round %1").arg(record->round));
     for (int team = 0; team < record->teams; ++team)
         offer.text += QStringLiteral("\r\n") + TeamName(team, record->names[size_t(team)]) + QStringLiteral(": $ ") +
                       FormatScore(record->scores[size_t(team)]);

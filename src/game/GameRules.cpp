@@ -2,6 +2,8 @@
 
 #include "platform/NumberText.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <vector>
 
@@ -100,7 +102,7 @@ QString RankingKey(qint32 score)
 
 QString TeamName(int team, const QString &given)
 {
-    return given.isEmpty() ? QStringLiteral("Team ") + QString::number(team + 1) : given;
+    return given.isEmpty() ? QCoreApplication::translate("GameRules", "Team %1").arg(team + 1) : given;
 }
 
 QString StandingsText(int teams, const std::array<qint32, 10> &scores, const std::array<QString, 10> &names)
@@ -120,7 +122,8 @@ QString StandingsText(int teams, const std::array<qint32, 10> &scores, const std
                 FormatScore(scores[size_t(t)]);
         if (k == teams - 1 && k >= 1) {
             const int below = lstWinner[size_t(k - 1)].second;
-            text += scores[size_t(t)] == scores[size_t(below)] ? QStringLiteral("  TIED") : QStringLiteral("  WINNER");
+            text += scores[size_t(t)] == scores[size_t(below)] ? QCoreApplication::translate("GameRules", "  TIED")
+                                                               : QCoreApplication::translate("GameRules", "  WINNER");
         }
         text += QStringLiteral("\r\n");
     }

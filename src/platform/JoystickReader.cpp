@@ -1,5 +1,6 @@
 #include "JoystickReader.h"
 
+#include <QCoreApplication>
 #include <QLibrary>
 #include <QMap>
 
@@ -103,7 +104,7 @@ bool JoystickReader::start()
     if (!sdl_) {
         auto sdl = std::make_unique<Sdl>();
         if (!sdl->bind()) {
-            why_ = QStringLiteral("SDL2 (libSDL2-2.0.so.0) could not be loaded");
+            why_ = QCoreApplication::translate("JoystickReader", "SDL2 (libSDL2-2.0.so.0) could not be loaded");
             return false;
         }
         sdl_ = std::move(sdl);
@@ -114,7 +115,7 @@ bool JoystickReader::start()
     sdl_->SetHint(SDL_HINT_JOYSTICK_ALLOW_BACKGROUND_EVENTS, "1");
     sdl_->SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
     if (sdl_->InitSubSystem(SDL_INIT_JOYSTICK | SDL_INIT_GAMECONTROLLER) != 0) {
-        why_ = QStringLiteral("SDL2 could not start its joysticks");
+        why_ = QCoreApplication::translate("JoystickReader", "SDL2 could not start its joysticks");
         return false;
     }
     stopping_ = false;

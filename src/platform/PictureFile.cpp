@@ -1,5 +1,6 @@
 #include "PictureFile.h"
 
+#include <QCoreApplication>
 #include <QBuffer>
 #include <QFile>
 #include <QImageReader>
@@ -27,26 +28,26 @@ bool readOrdinaryFile(const QString &path, QByteArray *bytes, QString *problem)
     // Looked at before it is opened (opening a device can itself act), and
     // again once open, in case it was swapped meanwhile.
     if (::stat(native.constData(), &st) != 0 || !S_ISREG(st.st_mode)) {
-        *problem = QStringLiteral("is missing");
+        *problem = QCoreApplication::translate("PictureFile", "is missing");
         return false;
     }
     const int fd = ::open(native.constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
     if (fd < 0) {
-        *problem = QStringLiteral("is missing");
+        *problem = QCoreApplication::translate("PictureFile", "is missing");
         return false;
     }
     const bool ordinary = ::fstat(fd, &st) == 0 && S_ISREG(st.st_mode);
     if (ordinary && st.st_size > kLargestFile)
-        *problem = QStringLiteral("is too large (%1 MB)").arg(st.st_size / (1024 * 1024));
+        *problem = QCoreApplication::translate("PictureFile", "is too large (%1 MB)").arg(st.st_size / (1024 * 1024));
     else if (!ordinary)
-        *problem = QStringLiteral("is missing");
+        *problem = QCoreApplication::translate("PictureFile", "is missing");
     for (char chunk[65536]; ordinary && problem->isEmpty();) {
         const ssize_t n = ::read(fd, chunk, sizeof chunk);
         if (n < 0 && errno == EINTR)
             continue;
         if (n <= 0 || bytes->size() + n > kLargestFile) {
             if (n != 0)
-                *problem = QStringLiteral("cannot be read");
+                *problem = QCoreApplication::translate("PictureFile", "cannot be read");
             break;
         }
         bytes->append(chunk, n);
@@ -141,6 +142,6 @@ PictureFile ReadPictureFile(const QString &path, QSize fitInto)
         reader.setScaledSize(natural.scaled(fitInto, Qt::KeepAspectRatio));
     result.image = reader.read();
     if (result.image.isNull())
-        result.problem = QStringLiteral("cannot be read as a picture (") + reader.errorString() + QLatin1Char(')');
+        result.problem = QCoreApplication::translate("PictureFile", "cannot be read as a picture (%1)").arg(reader.errorString());
     return result;
 }

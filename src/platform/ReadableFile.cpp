@@ -1,5 +1,6 @@
 #include "ReadableFile.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 
@@ -7,11 +8,11 @@ QString UnreadableFile(const QString &path)
 {
     const QFileInfo info(path);
     if (!info.exists())
-        return QStringLiteral("no such file");
+        return QCoreApplication::translate("ReadableFile", "no such file");
     if (info.isDir())
-        return QStringLiteral("is a folder");
+        return QCoreApplication::translate("ReadableFile", "is a folder");
     if (!info.isFile())
-        return QStringLiteral("not an ordinary file");
+        return QCoreApplication::translate("ReadableFile", "not an ordinary file");
     QFile f(path);
     if (!f.open(QIODevice::ReadOnly))
         return f.errorString();

@@ -1,5 +1,6 @@
 #include "WriteFileReplacing.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 
@@ -130,7 +131,7 @@ FileError CopyFileReplacing(const QString &from, const QString &to)
     if (source.exists() && !source.isFile())
         return systemError(source.isDir() ? EISDIR : EINVAL);
     if (destination.exists() && source.canonicalFilePath() == destination.canonicalFilePath())
-        return {EEXIST, QStringLiteral("A file cannot be copied onto itself.")};
+        return {EEXIST, QCoreApplication::translate("WriteFileReplacing", "A file cannot be copied onto itself.")};
     // Never waits on a pipe or a device put in the file's place meanwhile.
     const int in = ::open(QFile::encodeName(from).constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
     if (in < 0)

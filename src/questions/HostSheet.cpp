@@ -1,5 +1,7 @@
 #include "HostSheet.h"
 
+#include <QCoreApplication>
+#include <QLocale>
 #include <QAbstractTextDocumentLayout>
 #include <QBuffer>
 #include <QPainter>
@@ -23,10 +25,10 @@ QString cell(const QString &text)
 // category line up as one table.
 QString clueRow(const CategoryEntry &c, int round, int j)
 {
-    const QString value = round == 2 ? QStringLiteral("Final") : QLatin1Char('$') + QString::number((j + 1) * (round + 1) * 100);
+    const QString value = round == 2 ? QCoreApplication::translate("HostSheet", "Final") : QLatin1Char('$') + QString::number((j + 1) * (round + 1) * 100);
     QString clue = cell(c.Answer[size_t(j)]);
     if (!c.Picture[size_t(j)].isEmpty())
-        clue += QStringLiteral(" <i>[picture: ") + cell(c.Picture[size_t(j)]) + QStringLiteral("]</i>");
+        clue += QStringLiteral(" <i>[%1]</i>").arg(QCoreApplication::translate("HostSheet", "picture: %1").arg(cell(c.Picture[size_t(j)])));
     return QStringLiteral("<table width=\"100%\" cellpadding=\"3\"><tr><td width=\"12%\" style=\"white-space: nowrap\"><b>") +
            value + QStringLiteral("</b></td><td width=\"53%\">") + clue + QStringLiteral("</td><td width=\"35%\"><b>") +
            cell(c.Question[size_t(j)]) + QStringLiteral("</b></td></tr></table>");
@@ -96,16 +98,15 @@ QPageSize::PageSizeId HostSheetPaper(const QLocale &locale)
 
 QList<SheetPiece> HostSheetPieces(const QuestionSet &set)
 {
-    QList<SheetPiece> pieces{{QStringLiteral("<h1>") + cell(set.Description) + QStringLiteral("</h1><p>Answer time: ") +
-                                  QString::number(set.Timer) +
-                                  QStringLiteral(" seconds. Clue, then the response in bold.</p>"),
-                              false, true}};
+    const QString intro = QCoreApplication::translate("HostSheet", "Answer time: %1 seconds. Clue, then the response in bold.")
+                              .arg(QLocale().toString(set.Timer));
+    QList<SheetPiece> pieces{{QStringLiteral("<h1>%1</h1><p>%2</p>").arg(cell(set.Description), intro), false, true}};
     for (int r = 0; r < set.RoundCount; ++r) {
-        pieces.append({QStringLiteral("<h2>Round ") + QString::number(r + 1) + QStringLiteral("</h2>"), r > 0, true});
+        pieces.append({QStringLiteral("<h2>%1</h2>").arg(QCoreApplication::translate("HostSheet", "Round %1").arg(r + 1)), r > 0, true});
         for (int c = 0; c < set.CategoryCount[size_t(r)]; ++c)
             appendCategory(pieces, set.Categories[size_t(r)][size_t(c)], r);
     }
-    pieces.append({QStringLiteral("<h2>Final</h2>"), true, true});
+    pieces.append({QStringLiteral("<h2>%1</h2>").arg(QCoreApplication::translate("HostSheet", "Final")), true, true});
     appendCategory(pieces, set.Categories[2][0], 2);
     return pieces;
 }

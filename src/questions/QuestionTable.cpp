@@ -1,9 +1,16 @@
 #include "QuestionTable.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <array>
 
 namespace {
+
+// The messages a host reads when a table will not import.
+struct Say {
+    Q_DECLARE_TR_FUNCTIONS(QuestionTable)
+};
 
 enum Field { RoundField, CategoryField, ClueField, ResponseField, PictureField, FieldCount };
 
@@ -47,8 +54,7 @@ QString rowName(const TableRow &row)
         if (c.category() == QChar::Other_Control || c == QChar::LineSeparator || c == QChar::ParagraphSeparator)
             c = QLatin1Char(' ');
     }
-    return QStringLiteral("row ") + QString::number(row.number) + QStringLiteral(" (\"") +
-           (holds.size() > 60 ? holds.left(60) + QStringLiteral("…") : holds) + QStringLiteral("\")");
+    return Say::tr("row %1 (\"%2\")").arg(QString::number(row.number), holds.size() > 60 ? holds.left(60) + QStringLiteral("…") : holds);
 }
 
 // A round as a cell may hold it: 1, 2 (also as a number such as "1.0") or
@@ -62,9 +68,23 @@ int roundOf(const QString &text)
     return ok && (n == 1.0 || n == 2.0) ? int(n) : 0;
 }
 
+// A column's name inside a sentence: "the clue is empty".
+QString fieldWord(Field field)
+{
+    switch (field) {
+    case RoundField: return Say::tr("round");
+    case CategoryField: return Say::tr("category");
+    case ClueField: return Say::tr("clue");
+    case ResponseField: return Say::tr("response");
+    case PictureField:
+    case FieldCount: break;
+    }
+    return Say::tr("picture");
+}
+
 QString roundName(int round)
 {
-    return QStringLiteral("round ") + QString::number(round + 1);
+    return Say::tr("round %1").arg(round + 1);
 }
 
 QString rowList(const QList<Clue> &clues)
@@ -72,7 +92,7 @@ QString rowList(const QList<Clue> &clues)
     QStringList rows;
     for (const Clue &c : clues)
         rows << QString::number(c.row);
-    return (rows.size() == 1 ? QStringLiteral("row ") : QStringLiteral("rows ")) + rows.join(QStringLiteral(", "));
+    return (rows.size() == 1 ? Say::tr("row %1") : Say::tr("rows %1")).arg(rows.join(QStringLiteral(", ")));
 }
 
 // Walks the rows once, gathering clues by round and category in the order
@@ -84,8 +104,8 @@ public:
     QString run()
     {
         if (table_.rows.isEmpty())
-            return QStringLiteral("the table is empty; its first row must name the columns "
-                                  "Round, Category, Clue and Response");
+            //: Round, Category, Clue and Response are the names a table's columns must have, in English.
+            return Say::tr("the table is empty; its first row must name the columns Round, Category, Clue and Response");
         QString fault = findHeader();
         for (qsizetype i = header_ + 1; fault.isEmpty() && i < table_.rows.size(); ++i)
             fault = addRow(table_.rows[i]);
@@ -98,8 +118,7 @@ private:
     QString where(qint64 row, Field field) const
     {
         const int column = columns_[size_t(field)];
-        return rowName(rowNumbered(row)) + QStringLiteral(", column ") + ColumnLetters(column) + QStringLiteral(" (") +
-               headerText(column) + QLatin1Char(')');
+        return Say::tr("%1, column %2 (%3)").arg(rowName(rowNumbered(row)), ColumnLetters(column), headerText(column));
     }
 
     const TableRow &rowNumbered(qint64 number) const
@@ -167,10 +186,9 @@ QString TableMapper::readHeader(const TableRow &header)
                 header.cells[column].trimmed().compare(kFieldNames[size_t(f)], Qt::CaseInsensitive) != 0)
                 continue;
             if (columns_[size_t(f)] >= 0)
-                return rowName(header) + QStringLiteral(", column ") + ColumnLetters(column) +
-                       QStringLiteral(": a second column ") + quoted(kFieldNames[size_t(f)]) +
-                       QStringLiteral(" (the first is column ") + ColumnLetters(columns_[size_t(f)]) +
-                       QStringLiteral(")");
+                return Say::tr("%1, column %2: a second column %3 (the first is column %4)")
+                    .arg(rowName(header), ColumnLetters(column), quoted(kFieldNames[size_t(f)]),
+                         ColumnLetters(columns_[size_t(f)]));
             columns_[size_t(f)] = column;
         }
     }
@@ -181,10 +199,12 @@ QString TableMapper::readHeader(const TableRow &header)
     }
     if (missing.isEmpty())
         return QString();
-    return rowName(header) + QStringLiteral(": the header has no column") +
-           (missing.size() > 1 ? QStringLiteral("s ") : QStringLiteral(" ")) + missing.join(QStringLiteral(", ")) +
-           QStringLiteral("; one of the first ten filled rows must name the columns Round, Category, Clue and "
-                          "Response");
+    //: Round, Category, Clue and Response are the names a table's columns must have, in English.
+    return (missing.size() > 1 ? Say::tr("%1: the header has no columns %2; one of the first ten filled rows must name "
+                                         "the columns Round, Category, Clue and Response")
+                               : Say::tr("%1: the header has no column %2; one of the first ten filled rows must name "
+                                         "the columns Round, Category, Clue and Response"))
+        .arg(rowName(header), missing.join(QStringLiteral(", ")));
 }
 
 QString TableMapper::addRow(const TableRow &row)
@@ -201,19 +221,17 @@ QString TableMapper::addRow(const TableRow &row)
     for (int f = 0; f < FieldCount; ++f) {
         const QString &text = clue.text[size_t(f)];
         if (text.isEmpty() && f != PictureField)
-            return where(row.number, Field(f)) + QStringLiteral(": the ") + kFieldNames[size_t(f)].toLower() +
-                   QStringLiteral(" is empty");
+            return Say::tr("%1: the %2 is empty").arg(where(row.number, Field(f)), fieldWord(Field(f)));
         const QString fault = SetTextFault(text);
         if (!fault.isEmpty())
-            return where(row.number, Field(f)) + QStringLiteral(": ") + fault;
+            return Say::tr("%1: %2").arg(where(row.number, Field(f)), fault);
     }
     const int round = roundOf(clue.text[RoundField]);
     if (round == 3)
         return addFinal(clue);
     if (round > 0)
         return addClue(round - 1, clue);
-    return where(row.number, RoundField) + QStringLiteral(": ") + quoted(clue.text[RoundField]) +
-           QStringLiteral(" is not a round; write 1, 2 or Final");
+    return Say::tr("%1: %2 is not a round; write 1, 2 or Final").arg(where(row.number, RoundField), quoted(clue.text[RoundField]));
 }
 
 QString TableMapper::addClue(int round, const Clue &clue)
@@ -225,15 +243,14 @@ QString TableMapper::addClue(int round, const Clue &clue)
                            [&](const Category &c) { return c.title.compare(title, Qt::CaseInsensitive) == 0; });
     if (it == categories.end()) {
         if (categories.size() == 6)
-            return where(clue.row, CategoryField) + QStringLiteral(": a seventh category, ") + quoted(title) +
-                   QStringLiteral(", in ") + roundName(round) + QStringLiteral("; a round holds at most 6");
+            return Say::tr("%1: a seventh category, %2, in %3; a round holds at most 6")
+                .arg(where(clue.row, CategoryField), quoted(title), roundName(round));
         categories.append(Category{title, {}});
         it = categories.end() - 1;
     }
     if (it->clues.size() == 5)
-        return where(clue.row, CategoryField) + QStringLiteral(": a sixth clue for ") + quoted(title) +
-               QStringLiteral(" in ") + roundName(round) + QStringLiteral(" (five are in ") + rowList(it->clues) +
-               QStringLiteral("); a category holds 5");
+        return Say::tr("%1: a sixth clue for %2 in %3 (five are in %4); a category holds 5")
+            .arg(where(clue.row, CategoryField), quoted(title), roundName(round), rowList(it->clues));
     it->clues.append(clue);
     return QString();
 }
@@ -241,8 +258,8 @@ QString TableMapper::addClue(int round, const Clue &clue)
 QString TableMapper::addFinal(const Clue &clue)
 {
     if (final_)
-        return where(clue.row, RoundField) + QStringLiteral(": a second Final row (the first is row ") +
-               QString::number(final_->row) + QStringLiteral("); a set has one final clue");
+        return Say::tr("%1: a second Final row (the first is row %2); a set has one final clue")
+            .arg(where(clue.row, RoundField), QString::number(final_->row));
     final_ = clue;
     return QString();
 }
@@ -256,10 +273,9 @@ QString TableMapper::misspelt(int round, const Category &category) const
             continue;
         const Category &odd = other.clues.size() < category.clues.size() ? other : category;
         const Category &rest = &odd == &other ? category : other;
-        return where(odd.clues.first().row, CategoryField) + QStringLiteral(": ") + quoted(odd.title) +
-               QStringLiteral(" (") + rowList(odd.clues) + QStringLiteral(") in ") + roundName(round) +
-               QStringLiteral(" is spelled otherwise than ") + quoted(rest.title) + QStringLiteral(" (") +
-               rowList(rest.clues) + QStringLiteral("); the five rows of a category name it alike");
+        return Say::tr("%1: %2 (%3) in %4 is spelled otherwise than %5 (%6); the five rows of a category name it alike")
+            .arg(where(odd.clues.first().row, CategoryField), quoted(odd.title), rowList(odd.clues), roundName(round),
+                 quoted(rest.title), rowList(rest.clues));
     }
     return QString();
 }
@@ -272,22 +288,21 @@ QString TableMapper::checkComplete() const
             if (!odd.isEmpty())
                 return odd;
             if (c.clues.size() < 5)
-                return where(c.clues.last().row, CategoryField) + QStringLiteral(": ") + quoted(c.title) +
-                       QStringLiteral(" in ") + roundName(r) + QStringLiteral(" has ") +
-                       QString::number(c.clues.size()) + (c.clues.size() == 1 ? QStringLiteral(" clue (") : QStringLiteral(" clues (")) +
-                       rowList(c.clues) + QStringLiteral("); a category needs 5");
+                return (c.clues.size() == 1 ? Say::tr("%1: %2 in %3 has %4 clue (%5); a category needs 5")
+                                            : Say::tr("%1: %2 in %3 has %4 clues (%5); a category needs 5"))
+                    .arg(where(c.clues.last().row, CategoryField), quoted(c.title), roundName(r),
+                         QString::number(c.clues.size()), rowList(c.clues));
         }
     }
     if (rounds_[0].isEmpty()) {
         if (!rounds_[1].isEmpty())
-            return QStringLiteral("no row of round 1 (round 2 starts at ") +
-                   rowName(rowNumbered(rounds_[1].first().clues.first().row)) +
-                   QStringLiteral("); a set starts with round 1");
-        return QStringLiteral("no row of round 1 below the header (") + rowName(header()) +
-               QStringLiteral("); a set needs at least one category of round 1");
+            return Say::tr("no row of round 1 (round 2 starts at %1); a set starts with round 1")
+                .arg(rowName(rowNumbered(rounds_[1].first().clues.first().row)));
+        return Say::tr("no row of round 1 below the header (%1); a set needs at least one category of round 1")
+            .arg(rowName(header()));
     }
     if (!final_)
-        return QStringLiteral("no Final row; a set needs one final clue, a row whose Round is Final");
+        return Say::tr("no Final row; a set needs one final clue, a row whose Round is Final");
     return QString();
 }
 
@@ -338,14 +353,13 @@ QString SetTextFault(const QString &text)
     for (const QChar c : text) {
         const char16_t u = c.unicode();
         if (u == u'\n' || u == u'\r' || u == u'\v' || u == u'\f' || u == 0x85 || u == 0x2028 || u == 0x2029)
-            return QStringLiteral("a line break inside the text; a set holds every text on one line");
+            return Say::tr("a line break inside the text; a set holds every text on one line");
         if (c.category() == QChar::Other_Control && u != u'\t')
-            return QStringLiteral("a control character (U+%1) inside the text")
+            return Say::tr("a control character (U+%1) inside the text")
                 .arg(QString::number(u, 16).toUpper().rightJustified(4, QLatin1Char('0')));
     }
     if (text.size() > kMaxSetText)
-        return QString::number(text.size()) + QStringLiteral(" characters; a text holds at most ") +
-               QString::number(kMaxSetText);
+        return Say::tr("%1 characters; a text holds at most %2").arg(text.size()).arg(kMaxSetText);
     return QString();
 }
 

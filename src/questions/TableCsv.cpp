@@ -7,6 +7,7 @@
 
 #include "platform/Windows1252.h"
 
+#include <QCoreApplication>
 #include <csv.h>
 
 #include <QStringDecoder>
@@ -177,7 +178,7 @@ TableFile TableCsv::read(const QByteArray &bytes)
     Parse p;
     p.utf8 = text.utf8;
     if (!parse(p, text.bytes, findSeparator(text)))
-        return {{}, QStringLiteral("row %1: a quotation mark opens a text that never ends").arg(p.openQuoteRow)};
+        return {{}, QCoreApplication::translate("TableFiles", "row %1: a quotation mark opens a text that never ends").arg(p.openQuoteRow)};
     return p.builder.finish();
 }
 

@@ -4,6 +4,7 @@
 
 #include "TableFormats.h"
 
+#include <QCoreApplication>
 #include <minizip/unzip.h>
 
 #include <QFile>
@@ -32,12 +33,12 @@ TableFile readZip(const QString &path)
 {
     ZipReader zip(path);
     if (!zip.isOpen())
-        return {{}, QStringLiteral("a damaged zip container")};
+        return {{}, QCoreApplication::translate("TableFiles", "a damaged zip container")};
     if (TableXlsx::holdsWorkbook(zip))
         return TableXlsx::read(zip);
     if (TableOds::holdsSpreadsheet(zip))
         return TableOds::read(zip);
-    return {{}, QStringLiteral("a zip container, but neither an .xlsx workbook nor an .ods spreadsheet")};
+    return {{}, QCoreApplication::translate("TableFiles", "a zip container, but neither an .xlsx workbook nor an .ods spreadsheet")};
 }
 
 TableFile readText(const QString &path, QFile &file)
@@ -46,12 +47,12 @@ TableFile readText(const QString &path, QFile &file)
     if (!isTextName(suffix)) {
         if (suffix.compare(QStringLiteral("xlsx"), Qt::CaseInsensitive) == 0 ||
             suffix.compare(QStringLiteral("ods"), Qt::CaseInsensitive) == 0)
-            return {{}, QStringLiteral("not a zip container, so not a workbook: the file is damaged or "
+            return {{}, QCoreApplication::translate("TableFiles", "not a zip container, so not a workbook: the file is damaged or "
                                        "only named so")};
-        return {{}, QStringLiteral("not a spreadsheet; .csv, .xlsx and .ods files are read")};
+        return {{}, QCoreApplication::translate("TableFiles", "not a spreadsheet; .csv, .xlsx and .ods files are read")};
     }
     if (file.size() > kTextFileLimit)
-        return {{}, QStringLiteral("%1 MB is too large for a question set's table").arg(file.size() / (1024 * 1024))};
+        return {{}, QCoreApplication::translate("TableFiles", "%1 MB is too large for a question set's table").arg(file.size() / (1024 * 1024))};
     const QByteArray bytes = file.readAll();
     if (file.error() != QFileDevice::NoError)
         return {{}, file.errorString()};
@@ -132,7 +133,7 @@ void TableBuilder::applyMerges()
 TableFile TableBuilder::finish()
 {
     if (full())
-        return {{}, QStringLiteral("more than %1 filled rows by row %2; a question set's table has at most 62")
+        return {{}, QCoreApplication::translate("TableFiles", "more than %1 filled rows by row %2; a question set's table has at most 62")
                         .arg(kMaxTableRows)
                         .arg(tooMany_)};
     applyMerges();
@@ -143,7 +144,7 @@ QString UnreasonableXml(const QByteArray &xml, const QString &name)
 {
     constexpr int kMostAttributes = 512;
     if (xml.size() > ZipReader::kEntryLimit)
-        return name + QStringLiteral(" inside is too large for a question set's table");
+        return QCoreApplication::translate("TableFiles", "%1 inside is too large for a question set's table").arg(name);
     // A walk over the bytes: inside a tag, outside quotes, each "=" is an
     // attribute; comments and CDATA hold text, not tags.
     enum { Text, Tag, Quoted, Skipped } state = Text;
@@ -169,7 +170,7 @@ QString UnreasonableXml(const QByteArray &xml, const QString &name)
                 quote = c;
                 state = Quoted;
             } else if (c == '=' && ++attributes > kMostAttributes) {
-                return name + QStringLiteral(" inside is damaged (a tag with over %1 attributes)").arg(kMostAttributes);
+                return QCoreApplication::translate("TableFiles", "%1 inside is damaged (a tag with over %2 attributes)").arg(name, QString::number(kMostAttributes));
             } else if (c == '>') {
                 state = Text;
             }
@@ -205,7 +206,7 @@ TableFile ReadTableFile(const QString &path)
         return readZip(path);
     }
     if (start == QByteArray("\xD0\xCF\x11\xE0", 4))
-        return {{}, QStringLiteral("an old Excel workbook (.xls); save it as .xlsx or .csv")};
+        return {{}, QCoreApplication::translate("TableFiles", "an old Excel workbook (.xls); save it as .xlsx or .csv")};
     return readText(path, file);
 }
 
@@ -232,7 +233,7 @@ FileError WriteTableFile(const Table &table, const QString &path)
     case TableFormat::None:
         break;
     }
-    return {EINVAL, QStringLiteral("a spreadsheet is written as .csv or .xlsx")};
+    return {EINVAL, QCoreApplication::translate("TableFiles", "a spreadsheet is written as .csv or .xlsx")};
 }
 
 TableImport ImportQuestionTable(const QString &path, const QString &description, qint16 timer)
@@ -274,14 +275,14 @@ bool ZipReader::contains(const QString &name)
 QByteArray ZipReader::entry(const QString &name, QString *error)
 {
     if (!contains(name)) {
-        *error = name + QStringLiteral(" is missing from the zip container");
+        *error = QCoreApplication::translate("TableFiles", "%1 is missing from the zip container").arg(name);
         return {};
     }
     unz_file_info64 info{};
-    const QString tooLarge = name + QStringLiteral(" inside is too large for a question set's table");
+    const QString tooLarge = QCoreApplication::translate("TableFiles", "%1 inside is too large for a question set's table").arg(name);
     if (unzGetCurrentFileInfo64(zip_, &info, nullptr, 0, nullptr, 0, nullptr, 0) != UNZ_OK ||
         unzOpenCurrentFile(zip_) != UNZ_OK) {
-        *error = name + QStringLiteral(" inside is damaged or encrypted");
+        *error = QCoreApplication::translate("TableFiles", "%1 inside is damaged or encrypted").arg(name);
         return {};
     }
     if (info.uncompressed_size > quint64(kEntryLimit)) {
@@ -301,7 +302,7 @@ QByteArray ZipReader::entry(const QString &name, QString *error)
         return {};
     }
     if (n < 0 || closed != UNZ_OK) {
-        *error = name + QStringLiteral(" inside is damaged (zip error %1)").arg(n < 0 ? n : closed);
+        *error = QCoreApplication::translate("TableFiles", "%1 inside is damaged (zip error %2)").arg(name, QString::number(n < 0 ? n : closed));
         return {};
     }
     return bytes;

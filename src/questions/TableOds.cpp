@@ -7,6 +7,7 @@
 #include "TableFormats.h"
 
 
+#include <QCoreApplication>
 #include <QXmlStreamReader>
 
 #include <cmath>
@@ -156,9 +157,8 @@ TableFile readContent(const QByteArray &bytes)
         }
     }
     if (x.hasError())
-        return {{}, kContent + QStringLiteral(" inside is damaged (XML error in line %1: %2)")
-                                   .arg(x.lineNumber())
-                                   .arg(x.errorString())};
+        return {{}, QCoreApplication::translate("TableFiles", "%1 inside is damaged (XML error in line %2: %3)")
+                        .arg(kContent, QString::number(x.lineNumber()), x.errorString())};
     return table.finish();
 }
 

@@ -4,6 +4,7 @@
 
 #include "TableFormats.h"
 
+#include <QCoreApplication>
 #include <xlsxwriter.h>
 
 #include <QFile>
@@ -21,7 +22,8 @@ const QString kWorkbook = QStringLiteral("xl/workbook.xml");
 
 QString xmlFault(const QString &name, const QXmlStreamReader &x)
 {
-    return name + QStringLiteral(" inside is damaged (XML error in line %1: %2)").arg(x.lineNumber()).arg(x.errorString());
+    return QCoreApplication::translate("TableFiles", "%1 inside is damaged (XML error in line %2: %3)")
+        .arg(name, QString::number(x.lineNumber()), x.errorString());
 }
 
 // Workbooks write characters that XML cannot carry as "_xHHHH_", and a
@@ -379,14 +381,14 @@ QByteArray TableXlsx::write(const Table &table, FileError *error)
     // replace the target as safely as every other file of the game.
     const XlsxWriter *xlsx = xlsxWriter();
     if (!xlsx) {
-        *error = {ENOENT, QStringLiteral(QUIZZARR_XLSXWRITER_LIBRARY " (libxlsxwriter) could not be loaded")};
+        *error = {ENOENT, QCoreApplication::translate("TableFiles", "%1 (libxlsxwriter) could not be loaded").arg(QStringLiteral(QUIZZARR_XLSXWRITER_LIBRARY))};
         return {};
     }
     QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("table.xlsx"));
     lxw_workbook *book = folder.isValid() ? xlsx->workbookNew(QFile::encodeName(path).constData()) : nullptr;
     if (!book) {
-        *error = {EIO, QStringLiteral("no temporary file for the workbook")};
+        *error = {EIO, QCoreApplication::translate("TableFiles", "no temporary file for the workbook")};
         return {};
     }
     lxw_worksheet *sheet = xlsx->addWorksheet(book, "Questions");

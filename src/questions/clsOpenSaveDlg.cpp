@@ -2,6 +2,7 @@
 
 #include "platform/FileDialog.h"
 
+#include <QCoreApplication>
 
 namespace {
 
@@ -13,7 +14,7 @@ const QChar kSeparator(u'/');
 
 clsOpenSaveDlg::clsOpenSaveDlg()
 {
-    filter_ = QStringLiteral("All Files") + kNul + QStringLiteral("*.*") + kNul;
+    filter_ = QCoreApplication::translate("clsOpenSaveDlg", "All Files") + kNul + QStringLiteral("*.*") + kNul;
     setFileName(QString());
     // The wrapper's own defaults (0x282A0A together).
     flags_.setAllowMultiSelect(true);

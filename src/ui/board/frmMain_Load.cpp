@@ -119,11 +119,11 @@ void frmMain::createAnswerScreen()
     vseTV->hide();
     lblCategory = new ShadowLabel(vseTV);
     lblCategory->setObjectName(QStringLiteral("lblCategory"));
-    lblCategory->setCaption(QStringLiteral("Category"));
+    lblCategory->setCaption(tr("Category"));
     lblCategory->hide();
     lblValue = new ShadowLabel(vseTV);
     lblValue->setObjectName(QStringLiteral("lblValue"));
-    lblValue->setCaption(QStringLiteral("Value"));
+    lblValue->setCaption(tr("Value"));
     lblValue->hide();
     lblBuzz = new ShadowLabel(vseTV);
     lblBuzz->setObjectName(QStringLiteral("lblBuzz"));
@@ -140,7 +140,7 @@ void frmMain::startSound()
         return;
     while (hSoundLib->InitSound(uintptr_t(winId())) != 0) {
         const MsgBoxResult answer = MsgBox(
-            QStringLiteral("I am unable to initialize DirectSound. This might be caused if a sound is currently "
+            tr("I am unable to initialize DirectSound. This might be caused if a sound is currently "
                            "playing. Click RETRY after all sounds have stopped to try again. Click CANCEL to play "
                            "the game WITHOUT sound."),
             MsgBoxStyle::RetryCancel | MsgBoxStyle::Critical, applicationTitle());

@@ -10,10 +10,12 @@
 #include "ui/board/frmMain.h"
 
 #include <QCheckBox>
+#include <QCoreApplication>
 #include <QGridLayout>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QLocale>
 #include <QPushButton>
 #include <QScreen>
 #include <QSpinBox>
@@ -65,25 +67,25 @@ QString indexed(const char *array, int i)
 QString nextStep(const OpenClue &clue)
 {
     if (!clue.open)
-        return QStringLiteral("No clue open");
+        return QCoreApplication::translate("frmConsole", "No clue open");
     switch (clue.step) {
-    case ClueStep::Wait: return QStringLiteral("Wait");
-    case ClueStep::FinalCategory: return QStringLiteral("Show the final category");
-    case ClueStep::FinalClue: return QStringLiteral("Show the final clue");
-    case ClueStep::DailyDouble: return QStringLiteral("Show the clue");
-    case ClueStep::Clue: return QStringLiteral("Reveal the response");
+    case ClueStep::Wait: return QCoreApplication::translate("frmConsole", "Wait");
+    case ClueStep::FinalCategory: return QCoreApplication::translate("frmConsole", "Show the final category");
+    case ClueStep::FinalClue: return QCoreApplication::translate("frmConsole", "Show the final clue");
+    case ClueStep::DailyDouble: return QCoreApplication::translate("frmConsole", "Show the clue");
+    case ClueStep::Clue: return QCoreApplication::translate("frmConsole", "Reveal the response");
     case ClueStep::Response: break;
     }
-    return QStringLiteral("Close the clue");
+    return QCoreApplication::translate("frmConsole", "Close the clue");
 }
 
 // The seconds a host waits for: the think music, else the lock.
 QString secondsLeft(const OpenClue &clue)
 {
     if (clue.thinkSecondsLeft > 0)
-        return QStringLiteral("Think music: %1 s left").arg(clue.thinkSecondsLeft);
+        return QCoreApplication::translate("frmConsole", "Think music: %1 s left").arg(clue.thinkSecondsLeft);
     if (clue.lockSecondsLeft > 0)
-        return QStringLiteral("Locked: %1 s").arg(clue.lockSecondsLeft);
+        return QCoreApplication::translate("frmConsole", "Locked: %1 s").arg(clue.lockSecondsLeft);
     return QString();
 }
 
@@ -92,7 +94,7 @@ QString secondsLeft(const OpenClue &clue)
 frmConsole::frmConsole(GameState &state, QWidget *parent) : QWidget(parent), state_(state)
 {
     setObjectName(QStringLiteral("frmConsole"));
-    setWindowTitle(QStringLiteral("Host's console"));
+    setWindowTitle(tr("Host's console"));
     setAttribute(Qt::WA_StyledBackground);
     setStyleSheet(QLatin1String(kStyle));
     createControls();
@@ -108,15 +110,15 @@ void frmConsole::createControls()
     auto *top = new QGridLayout(this);
     lblRound = new QLabel(this);
     lblRound->setObjectName(QStringLiteral("lblRound"));
-    cmdEndRound = named(new QPushButton(QStringLiteral("End round"), this), QStringLiteral("cmdEndRound"));
-    cmdEndGame = named(new QPushButton(QStringLiteral("End game"), this), QStringLiteral("cmdEndGame"));
-    cmdSwitch = named(new QPushButton(QStringLiteral("Switch screens"), this), QStringLiteral("cmdSwitch"));
+    cmdEndRound = named(new QPushButton(tr("End round"), this), QStringLiteral("cmdEndRound"));
+    cmdEndGame = named(new QPushButton(tr("End game"), this), QStringLiteral("cmdEndGame"));
+    cmdSwitch = named(new QPushButton(tr("Switch screens"), this), QStringLiteral("cmdSwitch"));
     connect(cmdEndRound, &QPushButton::clicked, this, [this] {
-        if (confirm(QStringLiteral("End this round now? The tiles left in it will not be played.")))
+        if (confirm(tr("End this round now? The tiles left in it will not be played.")))
             act([](BoardGame &g) { g.KeyDown(QLatin1Char('N'), -1, 7); });
     });
     connect(cmdEndGame, &QPushButton::clicked, this, [this] {
-        if (confirm(QStringLiteral("End the game now, without the standings?")))
+        if (confirm(tr("End the game now, without the standings?")))
             act([](BoardGame &g) { g.KeyDown(QLatin1Char('Q'), -1, 7); });
     });
     connect(cmdSwitch, &QPushButton::clicked, this, &frmConsole::switchScreens);
@@ -146,7 +148,7 @@ QWidget *frmConsole::createBoardGrid()
     layout->setSpacing(4);
     for (int c = 0; c < 6; ++c) {
         cmdHeader[size_t(c)] = named(new QPushButton(grid), indexed("cmdHeader", c));
-        cmdHeader[size_t(c)]->setToolTip(QStringLiteral("Parade the titles"));
+        cmdHeader[size_t(c)]->setToolTip(tr("Parade the titles"));
         connect(cmdHeader[size_t(c)], &QPushButton::clicked, this, [this] { act([](BoardGame &g) { g.HeaderPress(); }); });
         layout->addWidget(cmdHeader[size_t(c)], 0, c);
     }
@@ -193,10 +195,10 @@ QWidget *frmConsole::createBuzzPanel()
     auto *panel = new QWidget(this);
     auto *layout = new QGridLayout(panel);
     layout->setContentsMargins(0, 4, 0, 0);
-    chkBuzzIn = new QCheckBox(QStringLiteral("Buzz in"), panel);
+    chkBuzzIn = new QCheckBox(tr("Buzz in"), panel);
     chkBuzzIn->setObjectName(QStringLiteral("chkBuzzIn"));
     chkBuzzIn->setFocusPolicy(Qt::NoFocus);
-    cmdBuzzers = named(new QPushButton(QStringLiteral("Buzzers\u2026"), panel), QStringLiteral("cmdBuzzers"));
+    cmdBuzzers = named(new QPushButton(tr("Buzzers…"), panel), QStringLiteral("cmdBuzzers"));
     lblBuzzers = new QLabel(panel);
     lblBuzzers->setObjectName(QStringLiteral("lblBuzzers"));
     cmdOpenBuzzers = named(new QPushButton(panel), QStringLiteral("cmdOpenBuzzers"));
@@ -258,10 +260,10 @@ void frmConsole::refreshBuzz()
     cmdBuzzers->setEnabled(buzzers_);
     BuzzIn *buzz = board_ ? &board_->buzzIn() : nullptr;
     const bool live = on && buzz && buzz->takesBuzzes();
-    lblBuzzers->setText(!on ? QStringLiteral("Buzzers off")
+    lblBuzzers->setText(!on ? tr("Buzzers off")
                         : !live ? QString()
-                        : buzz->isOpen() ? QStringLiteral("Buzzers OPEN") : QStringLiteral("Buzzers closed"));
-    cmdOpenBuzzers->setText(live && buzz->isOpen() ? QStringLiteral("Close (Space)") : QStringLiteral("Open (Space)"));
+                        : buzz->isOpen() ? tr("Buzzers OPEN") : tr("Buzzers closed"));
+    cmdOpenBuzzers->setText(live && buzz->isOpen() ? tr("Close (Space)") : tr("Open (Space)"));
     cmdOpenBuzzers->setEnabled(live);
     QStringList lines;
     if (live) {
@@ -271,9 +273,9 @@ void frmConsole::refreshBuzz()
             QString line = QStringLiteral("<span style=\"color:%1\">%2</span>")
                                .arg(TeamColor(team).name(), TeamName(team, state_.TeamNames[size_t(team)]).toHtmlEscaped());
             if (i > 0)
-                line += QStringLiteral(" +%1 s").arg(double(order[i].ms - order[0].ms) / 1000.0, 0, 'f', 2);
+                line += tr(" +%1 s").arg(QLocale().toString(double(order[i].ms - order[0].ms) / 1000.0, 'f', 2));
             if (buzz->out(team))
-                line += QStringLiteral(" (wrong)");
+                line += tr(" (wrong)");
             lines << QString::number(i + 1) + QStringLiteral(". ") + line;
         }
         QStringList early;
@@ -282,13 +284,13 @@ void frmConsole::refreshBuzz()
                 early << TeamName(t, state_.TeamNames[size_t(t)]).toHtmlEscaped();
         }
         if (!early.isEmpty())
-            lines << QStringLiteral("Too early: ") + early.join(QStringLiteral(", "));
+            lines << tr("Too early: %1").arg(early.join(QStringLiteral(", ")));
     }
     lblOrder->setText(lines.join(QStringLiteral("<br>")));
     const std::optional<int> turn = live ? buzz->hasTurn() : std::nullopt;
     const QString name = turn ? TeamName(*turn, state_.TeamNames[size_t(*turn)]) : QString();
-    cmdRight->setText(turn ? QStringLiteral("Right (+): ") + name : QStringLiteral("Right (+)"));
-    cmdWrong->setText(turn ? QStringLiteral("Wrong (\u2212): ") + name : QStringLiteral("Wrong (\u2212)"));
+    cmdRight->setText(turn ? tr("Right (+): %1").arg(name) : tr("Right (+)"));
+    cmdWrong->setText(turn ? tr("Wrong (−): %1").arg(name) : tr("Wrong (−)"));
     cmdRight->setEnabled(bool(turn));
     cmdWrong->setEnabled(bool(turn));
     cmdRight->setVisible(on);
@@ -310,9 +312,9 @@ QWidget *frmConsole::createTeamPanel()
     spnAmount->setPrefix(QStringLiteral("$ "));
     spnAmount->setMinimumWidth(140);
     spnAmount->setButtonSymbols(QAbstractSpinBox::NoButtons); // typed, or the value of the tile
-    cmdUndo = named(new QPushButton(QStringLiteral("Undo last score"), panel), QStringLiteral("cmdUndo"));
+    cmdUndo = named(new QPushButton(tr("Undo last score"), panel), QStringLiteral("cmdUndo"));
     connect(cmdUndo, &QPushButton::clicked, this, [this] { act([](BoardGame &g) { g.undoScore(); }); });
-    amountRow->addWidget(new QLabel(QStringLiteral("Amount to give (+) or take (\u2212):"), panel));
+    amountRow->addWidget(new QLabel(tr("Amount to give (+) or take (−):"), panel));
     amountRow->addWidget(spnAmount);
     amountRow->addSpacing(24);
     amountRow->addWidget(cmdUndo);
@@ -385,7 +387,7 @@ void frmConsole::attach(frmMain *board)
 bool frmConsole::confirm(const QString &question)
 {
     // Nothing undoes these; a slip of the mouse must not end a game.
-    return MsgBox(question + QStringLiteral(" This cannot be undone."), MsgBoxStyle::YesNo | MsgBoxStyle::Question,
+    return MsgBox(tr("%1 This cannot be undone.").arg(question), MsgBoxStyle::YesNo | MsgBoxStyle::Question,
                   QString(), this) == MsgBoxResult::Yes;
 }
 
@@ -445,7 +447,7 @@ void frmConsole::refresh()
         w->setEnabled(game);
     cmdSwitch->setEnabled(game && QGuiApplication::screens().size() > 1);
     if (!game) {
-        lblRound->setText(QStringLiteral("No game running: name the teams, then start a game on the home screen."));
+        lblRound->setText(tr("No game running: name the teams, then start a game on the home screen."));
         for (QPushButton *b : cmdHeader)
             b->setText(QString()), b->setEnabled(false);
         for (QPushButton *b : cmdTile)
@@ -458,7 +460,7 @@ void frmConsole::refresh()
         cmdNext->setEnabled(false);
     } else {
         const int round = game->settings().Round;
-        lblRound->setText((round >= 3 ? QStringLiteral("Final") : QStringLiteral("Round %1").arg(round)) +
+        lblRound->setText((round >= 3 ? tr("Final") : tr("Round %1").arg(round)) +
                           QStringLiteral("  \u2014  ") + GameReads::Description(game->settings().QuestionFile));
         refreshGrid(*game);
         refreshClue(*game);
@@ -502,13 +504,13 @@ void frmConsole::refreshClue(const BoardGame &game)
 {
     const OpenClue clue = game.openClue();
     if (clue.open) {
-        const QString value = clue.final ? QStringLiteral("Final") : QStringLiteral("$") + QString::number(clue.value);
+        const QString value = clue.final ? tr("Final") : QStringLiteral("$") + QString::number(clue.value);
         lblCategory->setText(clue.category + QStringLiteral("  \u2014  ") + value +
-                             (clue.dailyDouble ? QStringLiteral("  (daily double)") : QString()));
+                             (clue.dailyDouble ? tr("  (daily double)") : QString()));
         lblClue->setText(clue.clue);
-        lblResponse->setText(QStringLiteral("Response: ") + clue.response);
+        lblResponse->setText(tr("Response: %1").arg(clue.response));
     } else {
-        lblCategory->setText(QStringLiteral("Choose a value on the board below."));
+        lblCategory->setText(tr("Choose a value on the board below."));
         lblClue->clear();
         lblResponse->clear();
     }

@@ -38,7 +38,7 @@ QWidget *frmConsole::createPhonesPanel()
     auto *panel = new QWidget(this);
     auto *layout = new QGridLayout(panel);
     layout->setContentsMargins(0, 4, 0, 0);
-    chkPhones = new QCheckBox(QStringLiteral("Phones"), panel);
+    chkPhones = new QCheckBox(tr("Phones"), panel);
     chkPhones->setObjectName(QStringLiteral("chkPhones"));
     chkPhones->setFocusPolicy(Qt::NoFocus);
     connect(chkPhones, &QCheckBox::clicked, this, [this](bool on) {
@@ -46,7 +46,7 @@ QWidget *frmConsole::createPhonesPanel()
             turnPhonesOn_(on);
         refresh();
     });
-    cmdJoinScreen = button(QStringLiteral("Join screen (J)"), QStringLiteral("cmdJoinScreen"), panel);
+    cmdJoinScreen = button(tr("Join screen (J)"), QStringLiteral("cmdJoinScreen"), panel);
     connect(cmdJoinScreen, &QPushButton::clicked, this, [this] {
         if (board_)
             board_->showJoinScreen(!board_->joinScreenShown());
@@ -56,7 +56,7 @@ QWidget *frmConsole::createPhonesPanel()
     lstPlayers = new QListWidget(panel);
     lstPlayers->setObjectName(QStringLiteral("lstPlayers"));
     lstPlayers->setMaximumHeight(72);
-    cmdRemovePlayer = button(QStringLiteral("Remove player"), QStringLiteral("cmdRemovePlayer"), panel);
+    cmdRemovePlayer = button(tr("Remove player"), QStringLiteral("cmdRemovePlayer"), panel);
     connect(cmdRemovePlayer, &QPushButton::clicked, this, [this] {
         const QListWidgetItem *item = lstPlayers->currentItem();
         if (item && phones_ && phones_->server())
@@ -96,7 +96,7 @@ void frmConsole::refreshPhones()
     cmdRemovePlayer->setVisible(on && between);
     if (!on)
         return;
-    lblRoom->setText(QStringLiteral("Room %1 \u2014 %2").arg(phones_->room()->code(), phones_->address()));
+    lblRoom->setText(tr("Room %1 — %2").arg(phones_->room()->code(), phones_->address()));
     // The list as it is, keeping the host's choice.
     QStringList rows;
     const QList<PhonePlayer> &players = phones_->room()->players();
@@ -123,7 +123,7 @@ QWidget *frmConsole::createDailyDoublePanel()
     pnlDailyDouble = new QWidget(this);
     auto *layout = new QHBoxLayout(pnlDailyDouble);
     layout->setContentsMargins(0, 4, 0, 0);
-    lblDailyDouble = new QLabel(QStringLiteral("Daily double for:"), pnlDailyDouble);
+    lblDailyDouble = new QLabel(tr("Daily double for:"), pnlDailyDouble);
     cmbDailyDouble = new QComboBox(pnlDailyDouble);
     cmbDailyDouble->setObjectName(QStringLiteral("cmbDailyDouble"));
     cmbDailyDouble->setFocusPolicy(Qt::NoFocus);
@@ -140,7 +140,7 @@ QWidget *frmConsole::createAnswersPanel()
 {
     pnlAnswers = new QWidget(this);
     auto *layout = new QGridLayout(pnlAnswers);
-    auto *title = new QLabel(QStringLiteral("The final: each team's wager and response"), pnlAnswers);
+    auto *title = new QLabel(tr("The final: each team's wager and response"), pnlAnswers);
     title->setObjectName(QStringLiteral("lblFinalAnswers"));
     layout->addWidget(title, 0, 0, 1, 3);
     for (int t = 0; t < 10; ++t) {
@@ -148,8 +148,8 @@ QWidget *frmConsole::createAnswersPanel()
         lblAnswer[size_t(t)]->setTextFormat(Qt::PlainText); // what a phone typed is text, never markup
         lblAnswer[size_t(t)]->setWordWrap(true);
         lblAnswer[size_t(t)]->setObjectName(QStringLiteral("lblAnswer(%1)").arg(t));
-        cmdAnswerRight[size_t(t)] = button(QStringLiteral("Right"), QStringLiteral("cmdAnswerRight(%1)").arg(t), pnlAnswers);
-        cmdAnswerWrong[size_t(t)] = button(QStringLiteral("Wrong"), QStringLiteral("cmdAnswerWrong(%1)").arg(t), pnlAnswers);
+        cmdAnswerRight[size_t(t)] = button(tr("Right"), QStringLiteral("cmdAnswerRight(%1)").arg(t), pnlAnswers);
+        cmdAnswerWrong[size_t(t)] = button(tr("Wrong"), QStringLiteral("cmdAnswerWrong(%1)").arg(t), pnlAnswers);
         for (bool right : {true, false}) {
             connect(right ? cmdAnswerRight[size_t(t)] : cmdAnswerWrong[size_t(t)], &QPushButton::clicked, this, [this, t, right] {
                 if (board_)
@@ -161,7 +161,7 @@ QWidget *frmConsole::createAnswersPanel()
         layout->addWidget(cmdAnswerRight[size_t(t)], 1 + t, 1);
         layout->addWidget(cmdAnswerWrong[size_t(t)], 1 + t, 2);
     }
-    cmdReveal = button(QStringLiteral("Reveal the next team"), QStringLiteral("cmdReveal"), pnlAnswers);
+    cmdReveal = button(tr("Reveal the next team"), QStringLiteral("cmdReveal"), pnlAnswers);
     connect(cmdReveal, &QPushButton::clicked, this, [this] {
         if (board_)
             board_->run([this](BoardGame &) { board_->answers().revealNext(); });
@@ -185,7 +185,7 @@ void frmConsole::refreshAnswers()
         return;
     const int teams = board_->game().state().Teams;
     if (daily) {
-        QStringList items{QStringLiteral("(choose the team)")};
+        QStringList items{tr("(choose the team)")};
         for (int t = 0; t < teams; ++t)
             items << TeamName(t, state_.TeamNames[size_t(t)]);
         if (cmbDailyDouble->count() != items.size() || cmbDailyDouble->itemText(1) != items.value(1)) {
@@ -196,8 +196,8 @@ void frmConsole::refreshAnswers()
         cmbDailyDouble->setCurrentIndex(team ? *team + 1 : 0);
         // A wager from the team's phone becomes the amount to give or take.
         const std::optional<qint64> wager = team ? answers->answer(*team).wager : std::nullopt;
-        lblDailyDouble->setText(wager ? QStringLiteral("Daily double for (wager $ %1):").arg(FormatScore(qint32(*wager)))
-                                      : QStringLiteral("Daily double for:"));
+        lblDailyDouble->setText(wager ? tr("Daily double for (wager $ %1):").arg(FormatScore(qint32(*wager)))
+                                      : tr("Daily double for:"));
         if (wager && *wager != wagerShown_)
             spnAmount->setValue(int(*wager));
         wagerShown_ = wager.value_or(-1);
@@ -211,13 +211,13 @@ void frmConsole::refreshAnswers()
             continue;
         const TeamAnswers::Answer &a = answers->answer(t);
         QString text = TeamName(t, state_.TeamNames[size_t(t)]) + QStringLiteral(": ") +
-                       (a.wager ? QStringLiteral("$ ") + FormatScore(qint32(*a.wager)) : QStringLiteral("no wager"));
+                       (a.wager ? QStringLiteral("$ ") + FormatScore(qint32(*a.wager)) : tr("no wager"));
         if (a.response)
-            text += QStringLiteral(" \u2014 \u201c") + *a.response + QStringLiteral("\u201d");
+            text += tr(" — “%1”").arg(*a.response);
         if (a.right)
             text += *a.right ? QStringLiteral("  \u2714") : QStringLiteral("  \u2718");
         if (a.revealed)
-            text += QStringLiteral(" (shown)");
+            text += tr(" (shown)");
         lblAnswer[size_t(t)]->setText(text);
         cmdAnswerRight[size_t(t)]->setEnabled(a.wager && !a.revealed);
         cmdAnswerWrong[size_t(t)]->setEnabled(a.wager && !a.revealed);

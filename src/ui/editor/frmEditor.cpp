@@ -50,7 +50,7 @@ protected:
 frmEditor::frmEditor(QWidget *parent) : QMainWindow(parent)
 {
     setAttribute(Qt::WA_DeleteOnClose);
-    setWindowTitle(QStringLiteral("Question Editor/Creator"));
+    setWindowTitle(tr("Question Editor/Creator"));
     auto *canvas = new Backdrop;
     setCentralWidget(canvas);
     vseMain = new CaptionControl(canvas);
@@ -78,14 +78,14 @@ void frmEditor::arrangeTabOrder()
 
 void frmEditor::createMenu()
 {
-    mnuNew = menuBar()->addAction(QStringLiteral("&New"), this, &frmEditor::mnuNew_Click);
-    mnuOpen = menuBar()->addAction(QStringLiteral("&Open..."), this, &frmEditor::mnuOpen_Click);
-    mnuSave = menuBar()->addAction(QStringLiteral("&Save As..."), this, &frmEditor::mnuSave_Click);
+    mnuNew = menuBar()->addAction(tr("&New"), this, &frmEditor::mnuNew_Click);
+    mnuOpen = menuBar()->addAction(tr("&Open..."), this, &frmEditor::mnuOpen_Click);
+    mnuSave = menuBar()->addAction(tr("&Save As..."), this, &frmEditor::mnuSave_Click);
     mnuPrintSheet =
-        menuBar()->addAction(QStringLiteral("&Print Host Sheet..."), this, &frmEditor::mnuPrintSheet_Click);
-    mnuImportTable = menuBar()->addAction(QStringLiteral("&Import Spreadsheet..."), this, &frmEditor::mnuImportTable_Click);
-    mnuExportTable = menuBar()->addAction(QStringLiteral("E&xport Spreadsheet..."), this, &frmEditor::mnuExportTable_Click);
-    mnuExit = menuBar()->addAction(QStringLiteral("&Exit"), this, &frmEditor::mnuExit_Click);
+        menuBar()->addAction(tr("&Print Host Sheet..."), this, &frmEditor::mnuPrintSheet_Click);
+    mnuImportTable = menuBar()->addAction(tr("&Import Spreadsheet..."), this, &frmEditor::mnuImportTable_Click);
+    mnuExportTable = menuBar()->addAction(tr("E&xport Spreadsheet..."), this, &frmEditor::mnuExportTable_Click);
+    mnuExit = menuBar()->addAction(tr("&Exit"), this, &frmEditor::mnuExit_Click);
 }
 
 void frmEditor::showEvent(QShowEvent *event)
@@ -113,7 +113,7 @@ bool frmEditor::modifiedCheck(const QString &caption)
 {
     if (Modified.isEmpty())
         return true;
-    switch (MsgBox(QStringLiteral("Would you like to save your work?"),
+    switch (MsgBox(tr("Would you like to save your work?"),
                    MsgBoxStyle::YesNoCancel | MsgBoxStyle::Question, caption)) {
     case MsgBoxResult::Yes:
         mnuSave_Click();
@@ -127,7 +127,7 @@ bool frmEditor::modifiedCheck(const QString &caption)
 
 void frmEditor::mnuNew_Click()
 {
-    if (!modifiedCheck(QStringLiteral("New")))
+    if (!modifiedCheck(tr("New")))
         return;
     newSet();
 }
@@ -150,11 +150,11 @@ QString frmEditor::saveFolder() const
 
 void frmEditor::mnuOpen_Click()
 {
-    if (!modifiedCheck(QStringLiteral("Open")))
+    if (!modifiedCheck(tr("Open")))
         return;
     clsOpenSaveDlg dialog;
     dialog.setFileName(QString());
-    dialog.setFilter(QStringLiteral("PLOV(tm) Quizzarr! QA Files (*.QZ2;*.QZA)|*.QZ2;*.QZA"));
+    dialog.setFilter(tr("PLOV(tm) Quizzarr! QA Files (*.QZ2;*.QZA)|*.QZ2;*.QZA"));
     dialog.Flags().setExplorer(true);
     dialog.Flags().setHideReadOnly(true);
     dialog.Flags().setLongNames(true);
@@ -163,7 +163,7 @@ void frmEditor::mnuOpen_Click()
     dialog.Flags().setAllowMultiSelect(false);
     dialog.setInitialDir(questionFolder());
     dialog.setHwndOwner(uintptr_t(winId()));
-    dialog.setWindowTitle(QStringLiteral("Open"));
+    dialog.setWindowTitle(tr("Open"));
     if (!dialog.ShowOpen())
         return;
     LoadQuestionSet(dialog.FileName());
@@ -184,7 +184,7 @@ void frmEditor::mnuSave_Click()
     clsOpenSaveDlg dialog;
     dialog.setFileName(CurrentFileBase.mid(CurrentFileBase.lastIndexOf(QLatin1Char('/')) + 1));
     prepareDialog(dialog, saveFolder());
-    dialog.setFilter(QStringLiteral("QZ2 Files (*.QZ2)|*.QZ2"));
+    dialog.setFilter(tr("QZ2 Files (*.QZ2)|*.QZ2"));
     dialog.Flags().setNoChangeDir(true);
     dialog.Flags().setNoReadOnlyReturn(true);
     dialog.Flags().setOverwritePrompt(true);
@@ -192,9 +192,8 @@ void frmEditor::mnuSave_Click()
         return;
     const FileError error = WriteQuestionSet(questionSet, dialog.FileName());
     if (error) {
-        MsgBox(QStringLiteral("Save file error #:") + QString::number(error.number) + QStringLiteral("\r\n\r\n") +
-                   error.description,
-               MsgBoxStyle::OKOnly | MsgBoxStyle::Critical, QStringLiteral("Save As..."));
+        MsgBox(tr("Save file error #:%1\r\n\r\n%2").arg(QString::number(error.number), error.description),
+               MsgBoxStyle::OKOnly | MsgBoxStyle::Critical, tr("Save As..."));
         return;
     }
     Modified.clear();
@@ -207,9 +206,9 @@ void frmEditor::mnuSave_Click()
         const FileError copy = CopySetPictures(questionSet, QFileInfo(CurrentFileBase).absolutePath(),
                                                QFileInfo(dialog.FileName()).absolutePath());
         if (copy)
-            MsgBox(QStringLiteral("The set was saved, but its pictures could not all be copied beside it:\r\n\r\n") +
-                       copy.description,
-                   MsgBoxStyle::OKOnly | MsgBoxStyle::Exclamation, QStringLiteral("Save As..."));
+            MsgBox(tr("The set was saved, but its pictures could not all be copied beside it:\r\n\r\n%1")
+                       .arg(copy.description),
+                   MsgBoxStyle::OKOnly | MsgBoxStyle::Exclamation, tr("Save As..."));
     }
 }
 
@@ -220,7 +219,7 @@ void frmEditor::mnuExit_Click()
 
 void frmEditor::closeEvent(QCloseEvent *event)
 {
-    if (!modifiedCheck(QStringLiteral("Exit"))) {
+    if (!modifiedCheck(tr("Exit"))) {
         event->ignore();
         return;
     }

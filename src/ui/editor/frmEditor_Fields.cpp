@@ -60,19 +60,19 @@ void frmEditor::createFields()
     vseMain->setDesignSize(kDesign);
     vseMain->setScaleFonts(true);
     auto beside = [](qreal top) { return QRectF(2, top, kLeft - 6, kFieldHeight); };
-    txtDesc = addField(QStringLiteral("Description:"), QRectF(kLeft, 4, 288.8, kFieldHeight), beside(4));
-    txtSecs = addField(QStringLiteral("Secs/Answer:"), QRectF(472, 4, 28.8, kFieldHeight),
+    txtDesc = addField(tr("Description:"), QRectF(kLeft, 4, 288.8, kFieldHeight), beside(4));
+    txtSecs = addField(tr("Secs/Answer:"), QRectF(472, 4, 28.8, kFieldHeight),
                        QRectF(376, 4, 92, kFieldHeight));
     txtSecs->setMaxLength(2);
     txtSecs->setText(QStringLiteral("20"));
     txtSecs->setValidator(new QRegularExpressionValidator(QRegularExpression(QStringLiteral("\\d{0,2}")), txtSecs));
     txtSecs->installEventFilter(this);
-    txtName = addField(QStringLiteral("Cat. Title:"), QRectF(kLeft, 92, kWide, kFieldHeight), beside(92));
+    txtName = addField(tr("Cat. Title:"), QRectF(kLeft, 92, kWide, kFieldHeight), beside(92));
     for (int j = 0; j < 5; ++j) {
         const qreal a = kTextRows[2 * j], q = kTextRows[2 * j + 1];
-        txtAnswer[size_t(j)] = addField(QStringLiteral("Answer %1:").arg(j + 1),
+        txtAnswer[size_t(j)] = addField(tr("Answer %1:").arg(j + 1),
                                         QRectF(kLeft, a, kTextWide, kFieldHeight), beside(a));
-        txtQuestion[size_t(j)] = addField(QStringLiteral("Question %1:").arg(j + 1),
+        txtQuestion[size_t(j)] = addField(tr("Question %1:").arg(j + 1),
                                           QRectF(kLeft, q, kTextWide, kFieldHeight), beside(q));
     }
     createPictureButtons();
@@ -98,11 +98,11 @@ void frmEditor::createRoundsAndCategories()
         vseMain->addChild(row, QRectF(128, top, 372.8, kListHeight));
         return std::pair{combo, row};
     };
-    std::tie(cmbRounds, vseRounds) = list(QStringLiteral("Rounds:"), 32, 2);
-    std::tie(cmbCategories, vseCategories) = list(QStringLiteral("Categories:"), 60, 6);
+    std::tie(cmbRounds, vseRounds) = list(tr("Rounds:"), 32, 2);
+    std::tie(cmbCategories, vseCategories) = list(tr("Categories:"), 60, 6);
 
     auto *rounds = new QButtonGroup(this);
-    const QStringList roundCaptions{QStringLiteral("Round 1"), QStringLiteral("Round 2"), QStringLiteral("Final")};
+    const QStringList roundCaptions{tr("Round 1"), tr("Round 2"), tr("Final")};
     for (int r = 0; r < 3; ++r) {
         optRound[size_t(r)] = new QPushButton(roundCaptions[r]);
         optRound[size_t(r)]->setCheckable(true);
@@ -111,7 +111,7 @@ void frmEditor::createRoundsAndCategories()
     }
     auto *categories = new QButtonGroup(this);
     for (int c = 0; c < 6; ++c) {
-        optCategory[size_t(c)] = new QPushButton(QStringLiteral("Cat. %1").arg(c + 1));
+        optCategory[size_t(c)] = new QPushButton(tr("Cat. %1").arg(c + 1));
         optCategory[size_t(c)]->setCheckable(true);
         categories->addButton(optCategory[size_t(c)], c);
         vseCategories->addChild(optCategory[size_t(c)], QRectF());

@@ -61,7 +61,7 @@ void frmEditor::createPictureButtons()
         button->setToolButtonStyle(Qt::ToolButtonIconOnly);
         button->setPopupMode(QToolButton::MenuButtonPopup);
         auto *menu = new QMenu(button);
-        mnuRemovePicture[size_t(j)] = menu->addAction(QStringLiteral("Remove Picture"), this, [this, j] { RemovePicture(j); });
+        mnuRemovePicture[size_t(j)] = menu->addAction(tr("Remove Picture"), this, [this, j] { RemovePicture(j); });
         button->setMenu(menu);
         connect(button, &QToolButton::clicked, this, [this, j] { cmdPicture_Click(j); });
         vseMain->addChild(button, QRectF(kPictureLeft, kClueRows[j], kPictureWidth, kTwoRows));
@@ -87,10 +87,10 @@ void frmEditor::showPictures()
         static const QIcon none = noPicture();
         button->setIcon(name.isEmpty() ? none : icon);
         fitPictureIcon(button);
-        button->setText(name.isEmpty() ? QStringLiteral("Picture...") : icon.isNull() ? QStringLiteral("?") : QString());
+        button->setText(name.isEmpty() ? tr("Picture...") : icon.isNull() ? QStringLiteral("?") : QString());
         button->setToolButtonStyle(!name.isEmpty() && icon.isNull() ? Qt::ToolButtonTextOnly : Qt::ToolButtonIconOnly);
-        button->setToolTip(name.isEmpty() ? QStringLiteral("Choose a picture to show with this clue")
-                                          : name + (icon.isNull() ? QStringLiteral(" (not found)") : QString()));
+        button->setToolTip(name.isEmpty() ? tr("Choose a picture to show with this clue")
+                                          : icon.isNull() ? tr("%1 (not found)").arg(name) : name);
         mnuRemovePicture[size_t(j)]->setEnabled(!name.isEmpty());
     }
 }
@@ -98,8 +98,8 @@ void frmEditor::showPictures()
 void frmEditor::cmdPicture_Click(int j)
 {
     clsOpenSaveDlg dialog;
-    dialog.setWindowTitle(QStringLiteral("Choose a Picture for the Clue"));
-    dialog.setFilter(QStringLiteral("Pictures (*.png;*.jpg;*.jpeg;*.gif;*.svg;*.bmp)|*.png;*.jpg;*.jpeg;*.gif;*.svg;*.bmp"));
+    dialog.setWindowTitle(tr("Choose a Picture for the Clue"));
+    dialog.setFilter(tr("Pictures (*.png;*.jpg;*.jpeg;*.gif;*.svg;*.bmp)|*.png;*.jpg;*.jpeg;*.gif;*.svg;*.bmp"));
     const QString folder = CurrentFileBase.contains(QLatin1Char('/')) ? QFileInfo(CurrentFileBase).absolutePath() + QLatin1Char('/')
                                                                      : questionFolder();
     prepareDialog(dialog, folder);

@@ -12,11 +12,10 @@ void frmEditor::mnuPrintSheet_Click()
 {
     const QFileInfo set(CurrentFileBase);
     clsOpenSaveDlg dialog;
-    dialog.setFileName((set.fileName().isEmpty() ? QStringLiteral("Question Set") : set.fileName()) +
-                       QStringLiteral(" - host sheet.pdf"));
+    dialog.setFileName(tr("%1 - host sheet.pdf").arg(set.fileName().isEmpty() ? tr("Question Set") : set.fileName()));
     prepareDialog(dialog, saveFolder());
-    dialog.setWindowTitle(QStringLiteral("Print Host Sheet"));
-    dialog.setFilter(QStringLiteral("PDF Files (*.pdf)|*.pdf"));
+    dialog.setWindowTitle(tr("Print Host Sheet"));
+    dialog.setFilter(tr("PDF Files (*.pdf)|*.pdf"));
     dialog.setDefaultExtension(QStringLiteral("pdf"));
     dialog.Flags().setNoReadOnlyReturn(true);
     dialog.Flags().setOverwritePrompt(true);
@@ -25,7 +24,6 @@ void frmEditor::mnuPrintSheet_Click()
         return;
     const FileError error = WriteHostSheet(questionSet, dialog.FileName());
     if (error)
-        MsgBox(QStringLiteral("The host sheet could not be written to ") + dialog.FileName() + QStringLiteral(":\r\n") +
-                   error.description,
-               MsgBoxStyle::OKOnly | MsgBoxStyle::Critical, QStringLiteral("Print Host Sheet"));
+        MsgBox(tr("The host sheet could not be written to %1:\r\n%2").arg(dialog.FileName(), error.description),
+               MsgBoxStyle::OKOnly | MsgBoxStyle::Critical, tr("Print Host Sheet"));
 }

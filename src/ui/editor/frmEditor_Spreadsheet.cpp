@@ -10,15 +10,9 @@
 
 #include <QAction>
 
-namespace {
-
-const QString kImportCaption = QStringLiteral("Import Spreadsheet");
-const QString kExportCaption = QStringLiteral("Export Spreadsheet");
-
-} // namespace
-
 void frmEditor::mnuImportTable_Click()
 {
+    const QString kImportCaption = tr("Import Spreadsheet");
     if (!modifiedCheck(kImportCaption))
         return;
     clsOpenSaveDlg dialog;
@@ -26,7 +20,7 @@ void frmEditor::mnuImportTable_Click()
     dialog.Flags().setNoChangeDir(true);
     dialog.Flags().setAllowMultiSelect(false);
     dialog.setFileName(QString());
-    dialog.setFilter(QStringLiteral("Spreadsheets (*.csv;*.xlsx;*.ods)|*.csv;*.xlsx;*.ods"));
+    dialog.setFilter(tr("Spreadsheets (*.csv;*.xlsx;*.ods)|*.csv;*.xlsx;*.ods"));
     dialog.Flags().setFileMustExist(true);
     dialog.setWindowTitle(kImportCaption);
     if (!dialog.ShowOpen())
@@ -34,8 +28,8 @@ void frmEditor::mnuImportTable_Click()
     const QString table = dialog.FileName();
     const TableImport result = ImportQuestionTable(table, DescriptionFromTableName(table), 20);
     if (!result.set) {
-        MsgBox((result.unreadable ? QStringLiteral("Cannot read ") : QStringLiteral("Cannot import ")) + table +
-                   QStringLiteral(":\r\n\r\n") + result.error,
+        MsgBox((result.unreadable ? tr("Cannot read %1:\r\n\r\n%2") : tr("Cannot import %1:\r\n\r\n%2"))
+                   .arg(table, result.error),
                MsgBoxStyle::OKOnly | MsgBoxStyle::Critical, kImportCaption);
         return;
     }
@@ -53,12 +47,13 @@ void frmEditor::mnuImportTable_Click()
 
 void frmEditor::mnuExportTable_Click()
 {
+    const QString kExportCaption = tr("Export Spreadsheet");
     clsOpenSaveDlg dialog;
     prepareDialog(dialog, saveFolder());
     dialog.Flags().setNoChangeDir(true);
     dialog.Flags().setAllowMultiSelect(false);
     dialog.setFileName(CurrentFileBase.mid(CurrentFileBase.lastIndexOf(QLatin1Char('/')) + 1));
-    dialog.setFilter(QStringLiteral("Excel Workbook (*.xlsx)|*.xlsx|CSV Text (*.csv)|*.csv"));
+    dialog.setFilter(tr("Excel Workbook (*.xlsx)|*.xlsx|CSV Text (*.csv)|*.csv"));
     dialog.setDefaultExtension(QStringLiteral("xlsx"));
     dialog.Flags().setNoReadOnlyReturn(true);
     dialog.Flags().setOverwritePrompt(true);
@@ -69,8 +64,7 @@ void frmEditor::mnuExportTable_Click()
     const Table table = TableFromQuestionSet(questionSet);
     const FileError error = WriteTableFile(table, dialog.FileName());
     if (error) {
-        MsgBox(QStringLiteral("Export file error #:") + QString::number(error.number) + QStringLiteral("\r\n\r\n") +
-                   error.description,
+        MsgBox(tr("Export file error #:%1\r\n\r\n%2").arg(QString::number(error.number), error.description),
                MsgBoxStyle::OKOnly | MsgBoxStyle::Critical, kExportCaption);
         return;
     }
@@ -78,6 +72,6 @@ void frmEditor::mnuExportTable_Click()
     // learns now what an import would refuse.
     const TableImport back = QuestionSetFromTable(table, questionSet.Description, questionSet.Timer);
     if (!back.set)
-        MsgBox(QStringLiteral("The spreadsheet was written, but it will not import as it is:\r\n\r\n") + back.error,
+        MsgBox(tr("The spreadsheet was written, but it will not import as it is:\r\n\r\n%1").arg(back.error),
                MsgBoxStyle::OKOnly | MsgBoxStyle::Exclamation, kExportCaption);
 }
