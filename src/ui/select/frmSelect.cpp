@@ -443,7 +443,9 @@ void frmSelect::layOut()
     cmbScore->setGeometry(l.scoreCombo.toRect());
     // Buzz-in beside the team count, as far as the list reaches.
     const QRect combo = cmbScore->geometry();
-    const int button = QFontMetrics(cmdBuzzers->font()).horizontalAdvance(cmdBuzzers->text()) + 24;
+    // A short caption ("Buzzer…") still gets the style's smallest button.
+    const int button = qMax(QFontMetrics(cmdBuzzers->font()).horizontalAdvance(cmdBuzzers->text()) + 24,
+                            cmdBuzzers->sizeHint().width());
     cmdBuzzers->setGeometry(l.list.toRect().right() - button + 1, combo.y(), button, combo.height());
     const int check = chkBuzzIn->sizeHint().width();
     chkBuzzIn->setGeometry(cmdBuzzers->x() - 12 - check, combo.y(), check, combo.height());
