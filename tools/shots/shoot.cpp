@@ -17,6 +17,8 @@
 //                                          judged wrong; OUT-board.png (the
 //                                          projector, of the laptop's size)
 //                                          and OUT-console.png
+//   shoot windows OUT                      the small windows: OUT-help.png
+//                                          (scoring) and OUT-buzzers.png
 
 #include "game/BuzzIn.h"
 #include "game/BuzzerInputs.h"
@@ -28,8 +30,10 @@
 #include "ui/board/frmMain.h"
 #include "ui/console/frmConsole.h"
 #include "ui/editor/frmEditor.h"
+#include "ui/help/frmHowToPlay.h"
 #include "ui/controls/CommandButton.h"
 #include "ui/select/frmSelect.h"
+#include "ui/shell/Translations.h"
 #include "ui/shell/basPLOVQuzr.h"
 
 #include <QApplication>
@@ -98,6 +102,24 @@ int shootBuzz(frmSelect *home, GameState &state, const QString &out)
     return saved ? 0 : 1;
 }
 
+// The help on its scoring topic, and the buzzers window.
+int shootWindows(frmSelect *home, const QString &out)
+{
+    home->cmdHowToPlay->click();
+    auto *help = qobject_cast<frmHowToPlay *>(home->help());
+    if (!help)
+        return 1;
+    help->optHelp_Click(3);
+    QApplication::processEvents();
+    bool saved = help->grab().save(out + QStringLiteral("-help.png"));
+    help->close();
+    home->openBuzzers();
+    QApplication::processEvents();
+    saved = saved && home->buzzersWindow() && home->buzzersWindow()->grab().save(out + QStringLiteral("-buzzers.png"));
+    delete home;
+    return saved ? 0 : 1;
+}
+
 // Phones on: the join screen before round 1, then the final's wagers and
 // responses, judged, and the first team revealed.
 int shootPhones(frmSelect *home, const QString &out)
@@ -149,8 +171,8 @@ int main(int argc, char **argv)
     const QString what = QString::fromLocal8Bit(argc > 1 ? argv[1] : "");
     if (argc < 3 || (what != QStringLiteral("console") && what != QStringLiteral("picture") &&
                      what != QStringLiteral("editor") && what != QStringLiteral("buzz") &&
-                     what != QStringLiteral("phones"))) {
-        fprintf(stderr, "usage: shoot console|picture|editor|buzz|phones OUT.png [WIDTHxHEIGHT]\n");
+                     what != QStringLiteral("phones") && what != QStringLiteral("windows"))) {
+        fprintf(stderr, "usage: shoot console|picture|editor|buzz|phones|windows OUT.png [WIDTHxHEIGHT]\n");
         return 2;
     }
     const bool picture = what == QStringLiteral("picture") || what == QStringLiteral("buzz") || what == QStringLiteral("phones");
@@ -166,6 +188,7 @@ int main(int argc, char **argv)
                                                  picture ? QSize(size.value(0).toInt(), size.value(1).toInt())
                                                          : QSize(1024, 768)).toLocal8Bit());
     QApplication app(argc, argv);
+    InstallTranslations(QLocale::system()); // LANGUAGE=de: the shots in German
     ModuleFileName::overrideProgramFolder(QStringLiteral(QUIZZARR_PROGRAM_DIR));
 
     if (what == QStringLiteral("editor")) {
@@ -186,6 +209,8 @@ int main(int argc, char **argv)
         return shootBuzz(home, state, QString::fromLocal8Bit(argv[2]));
     if (what == QStringLiteral("phones"))
         return shootPhones(home, QString::fromLocal8Bit(argv[2]));
+    if (what == QStringLiteral("windows"))
+        return shootWindows(home, QString::fromLocal8Bit(argv[2]));
     const QList<QListWidgetItem *> sets = home->lstQuestions->findItems(
         picture ? QStringLiteral("Pictures") : QStringLiteral("World Geography"), Qt::MatchStartsWith);
     home->lstQuestions->setCurrentItem(sets.value(0));
