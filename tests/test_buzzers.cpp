@@ -4,23 +4,14 @@
 // themselves: keys through real key events, joysticks through SDL's virtual
 // joystick, and what is learned kept in the user's settings.
 
-#include "FakeClock.h"
-#include "FakeSoundControl.h"
-#include "RecordingBoardView.h"
-#include "RunMode.h"
-#include "ScriptedMsgBox.h"
-#include "TestSets.h"
-
+#include "GameFixture.h"
 #include "TestFolder.h"
 
-#include "game/BoardGame.h"
 #include "game/BuzzIn.h"
 #include "game/BuzzerInputs.h"
 #include "game/GameJournal.h"
-#include "game/GameState.h"
-#include "platform/JoystickReader.h"
 #include "platform/SpecialFolders.h"
-#include "shell/Libraries.h"
+#include "platform/JoystickReader.h"
 #include "ui/board/frmMain.h"
 #include "ui/controls/CommandButton.h"
 #include "ui/controls/ShadowLabel.h"
@@ -31,7 +22,6 @@
 #include <QListWidget>
 #include <QSignalSpy>
 #include <QStandardPaths>
-#include <QTemporaryDir>
 #include <QtTest>
 
 #include <SDL2/SDL.h>
@@ -54,38 +44,21 @@ QString settingsFile()
 
 } // namespace
 
-class TestBuzzers : public QObject {
+class TestBuzzers : public QObject, GameFixture {
     Q_OBJECT
 
-    QTemporaryDir dir_;
-    GameState settings_;
-    Libraries libraries_;
-    std::unique_ptr<FakeClock> clock_;
-    std::unique_ptr<ScriptedMsgBox> boxes_;
-    std::unique_ptr<FakeSoundControl> sound_;
-    std::unique_ptr<RecordingBoardView> view_;
-    std::unique_ptr<BoardGame> game_;
     std::unique_ptr<BuzzIn> buzzIn_;
 
     // A game of three teams on six columns, buzz-in on, with a plain clue
     // open (its lock running) unless told which tile.
     void openClue(int tile = -1)
     {
-        libraries_.hSoundLib->InitSound(0);
-        settings_.QuestionFile = writeFile(dir_.filePath(QStringLiteral("game.QZ2")),
-                                           setText({"A", "B", "C", "D", "E", "F"}, {}, "Final"));
-        view_ = std::make_unique<RecordingBoardView>();
-        game_ = std::make_unique<BoardGame>(*view_, settings_, libraries_);
-        view_->game = game_.get();
+        startRules(setText({"A", "B", "C", "D", "E", "F"}, {}, "Final"), 3, false);
         buzzIn_ = std::make_unique<BuzzIn>(*game_);
         buzzIn_->setEnabled(true);
-        game_->setTeams(3);
         game_->start();
-        if (tile < 0)
-            for (tile = 0; tile == settings_.DailyDouble1 || tile == settings_.DailyDouble2;)
-                ++tile;
         clock_->advance(3000);
-        game_->TilePress(tile, true, false);
+        game_->TilePress(tile < 0 ? plainTile() : tile, true, false);
     }
     // Time passes until the lock has ended; the buzzers open.
     void waitForTheLock()
@@ -104,26 +77,12 @@ class TestBuzzers : public QObject {
     }
 
 private slots:
-    void init()
-    {
-        settings_ = GameState{};
-        clock_ = std::make_unique<FakeClock>(11);
-        boxes_ = std::make_unique<ScriptedMsgBox>();
-        sound_ = std::make_unique<FakeSoundControl>(libraries_);
-        clock_->onAdvance = [this](int ms) { sound_->advance(ms); };
-        ForceGameMode(true);
-    }
-
+    void init() { setUp(11); }
     void cleanup()
     {
         buzzIn_.reset();
-        game_.reset();
         QFile::remove(settingsFile());
-        view_.reset();
-        sound_.reset();
-        boxes_.reset();
-        clock_.reset();
-        ForceGameMode(false);
+        tearDown();
     }
 
     void buzzersOpenWhenTheLockEndsAndEarlyBuzzesWait()
@@ -325,10 +284,7 @@ private slots:
         home->cmdStart->click();
         frmMain *board = home->board();
         QVERIFY(board);
-        int tile = 0;
-        while (tile == settings_.DailyDouble1 || tile == settings_.DailyDouble2)
-            ++tile;
-        board->run([tile](BoardGame &g) { g.TilePress(tile, true, false); });
+        board->run([tile = plainTile()](BoardGame &g) { g.TilePress(tile, true, false); });
         clock_->advance(3000);
         board->buzzIn().tick();
         QVERIFY(board->buzzIn().isOpen());

@@ -4,23 +4,14 @@
 // tested on BoardGame alone (test_rules).
 
 #include "BoardUnderTest.h"
-#include "FakeClock.h"
-#include "FakeSoundControl.h"
-#include "RunMode.h"
-#include "ScriptedMsgBox.h"
-#include "TestSets.h"
+#include "GameFixture.h"
 
 #include "game/GameRules.h"
-#include "game/GameState.h"
-#include "platform/ModuleFileName.h"
-#include "shell/Libraries.h"
-#include "shell/basDetectDevEnv.h"
 #include "ui/controls/CaptionControl.h"
 #include "ui/controls/ShadowLabel.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QTemporaryDir>
 #include <QTimer>
 #include <QtTest>
 
@@ -42,20 +33,14 @@ quint32 digitCode(int d)
 
 } // namespace
 
-class TestGame : public QObject {
+class TestGame : public QObject, GameFixture {
     Q_OBJECT
 
-    QTemporaryDir dir_;
-    GameState settings_;
-    Libraries libraries_;
-    std::unique_ptr<FakeClock> clock_;
-    std::unique_ptr<ScriptedMsgBox> boxes_;
-    std::unique_ptr<FakeSoundControl> sound_;
     QPointer<BoardUnderTest> board_;
 
     BoardUnderTest *start(const QByteArray &set, int teams)
     {
-        settings_.QuestionFile = writeFile(dir_.filePath(QStringLiteral("game.QZ2")), set);
+        writeSet(set);
         board_ = frmMain::StartGame<BoardUnderTest>(settings_, libraries_, teams);
         return board_;
     }
@@ -70,7 +55,6 @@ class TestGame : public QObject {
     void pressScreen() { press(board_->vseTV); }
     void score(int team) { sendKey(board_, Qt::Key_0 + team % 10, Qt::NoModifier, digitCode(team % 10)); }
 
-    bool isDailyDouble(int tile) const { return tile == settings_.DailyDouble1 || tile == settings_.DailyDouble2; }
     void playTile(int i)
     {
         const bool daily = isDailyDouble(i);
@@ -85,24 +69,12 @@ class TestGame : public QObject {
 private slots:
     void initTestCase() { QFont::insertSubstitution(QStringLiteral("Arial"), QStringLiteral("Liberation Sans")); }
 
-    void init()
-    {
-        settings_ = GameState{};
-        clock_ = std::make_unique<FakeClock>(7);
-        boxes_ = std::make_unique<ScriptedMsgBox>();
-        sound_ = std::make_unique<FakeSoundControl>(libraries_);
-        clock_->onAdvance = [this](int ms) { sound_->advance(ms); };
-        ForceGameMode(true);
-    }
-
+    void init() { setUp(7); }
     void cleanup()
     {
         delete board_.data();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        sound_.reset();
-        boxes_.reset();
-        clock_.reset();
-        ForceGameMode(false);
+        tearDown();
     }
 
     void wholeGameThroughPressesAndKeys()
@@ -110,9 +82,6 @@ private slots:
         sound_->setClipLength(105, 30000);
         start(setText({"Rivers", "Lakes", "", "", "", ""}, {"", "", "Ponds", "", "", ""}, "Seas"), 2);
         QVERIFY(board_);
-        QSignalSpy ended(board_.data(), &frmMain::unloaded);
-        QCOMPARE(boxes_->shown.size(), 1); // let the sounds end, then start
-        QVERIFY(boxes_->shown[0].text.startsWith(QStringLiteral("Please wait until all sounds")));
         QVERIFY(board_->isVisible());
         QCOMPARE(board_->lblTeam.size(), 2);
         QCOMPARE(board_->vseCategory[1]->caption(), QStringLiteral("Lakes"));
@@ -121,6 +90,7 @@ private slots:
         // Team 1 takes column 0; a few layouts' SHIFT+digit score for team 2.
         for (int row = 0; row < 5; ++row) {
             playTile(row * 6);
+            QCOMPARE(board_->vseQuestion[size_t(row * 6)]->caption(), QString());
             score(1);
         }
         QCOMPARE(board_->vseCategory[0]->caption(), QString());
@@ -137,16 +107,6 @@ private slots:
         QCOMPARE(settings_.Scores[1], 3 * last);
         QCOMPARE(board_->lblScore2[1]->caption(), QStringLiteral("$ ") + FormatScore(3 * last));
         QCOMPARE(settings_.Scores[0], column0);
-
-        // A header press parades the titles still shown.
-        QStringList parade;
-        clock_->onPause = [&](int ms) {
-            if (ms == 2500)
-                parade << board_->vseTV->caption();
-        };
-        press(board_->vseCategory[1]);
-        clock_->onPause = nullptr;
-        QCOMPARE(parade, QStringList({QStringLiteral("Lakes")}));
 
         sendKey(board_, Qt::Key_N, kAllThree);
         QCOMPARE(settings_.Round, qint16(2));
@@ -169,7 +129,6 @@ private slots:
         QCOMPARE(board_->lblScore[1]->caption(), QStringLiteral("$ ") + FormatScore(3 * last + 100));
         pressTile(0); // past the final: the standings
         QCOMPARE(boxes_->shown.last().caption, QStringLiteral("Scores"));
-        QCOMPARE(ended.size(), 1);
         QVERIFY(!board_->isVisible());
         QCOMPARE(sound_->played().last(), QStringLiteral("106"));
     }
@@ -254,6 +213,7 @@ private slots:
         clock_->advance(100000 - clock_->elapsedMs() - 3000);
         pressScreen();
         QVERIFY(closed);
+        QCOMPARE(board_->game().state().stepCode, QStringLiteral("NO")); // nothing after the wait
         QVERIFY(!board_->isVisible());
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QVERIFY(board_.isNull());

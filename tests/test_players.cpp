@@ -4,27 +4,18 @@
 // back with its token after a dropped connection or a restart, wagers and
 // the final's responses; and the message checker on its own.
 
-#include "FakeClock.h"
-#include "FakeSoundControl.h"
-#include "RecordingBoardView.h"
-#include "RunMode.h"
-#include "ScriptedMsgBox.h"
-#include "TestSets.h"
+#include "GameFixture.h"
 
-#include "game/BoardGame.h"
 #include "game/BuzzIn.h"
-#include "game/GameState.h"
 #include "game/PlayersRoom.h"
 #include "game/TeamAnswers.h"
 #include "players/PlayerMessages.h"
 #include "players/PlayersServer.h"
-#include "shell/Libraries.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QSignalSpy>
 #include <QTcpSocket>
-#include <QTemporaryDir>
 #include <QWebSocket>
 #include <QtTest>
 
@@ -77,17 +68,9 @@ QJsonObject message(const char *type) { return {{QStringLiteral("type"), QLatin1
 
 } // namespace
 
-class TestPlayers : public QObject {
+class TestPlayers : public QObject, GameFixture {
     Q_OBJECT
 
-    QTemporaryDir dir_;
-    GameState settings_;
-    Libraries libraries_;
-    std::unique_ptr<FakeClock> clock_;
-    std::unique_ptr<ScriptedMsgBox> boxes_;
-    std::unique_ptr<FakeSoundControl> sound_;
-    std::unique_ptr<RecordingBoardView> view_;
-    std::unique_ptr<BoardGame> game_;
     std::unique_ptr<BuzzIn> buzzIn_;
     std::unique_ptr<TeamAnswers> answers_;
     std::unique_ptr<PlayersRoom> room_;
@@ -106,9 +89,7 @@ class TestPlayers : public QObject {
     int openPlainClue()
     {
         ForceGameMode(true);
-        int tile = 0;
-        while (tile == settings_.DailyDouble1 || tile == settings_.DailyDouble2)
-            ++tile;
+        const int tile = plainTile();
         clock_->advance(3000);
         game_->TilePress(tile, true, false);
         return tile;
@@ -118,21 +99,12 @@ class TestPlayers : public QObject {
 private slots:
     void init()
     {
-        settings_ = GameState{};
-        clock_ = std::make_unique<FakeClock>(5);
-        boxes_ = std::make_unique<ScriptedMsgBox>();
-        sound_ = std::make_unique<FakeSoundControl>(libraries_);
-        clock_->onAdvance = [this](int ms) { sound_->advance(ms); };
-        libraries_.hSoundLib->InitSound(0);
-        settings_.QuestionFile = writeFile(dir_.filePath(QStringLiteral("game.QZ2")),
-                                           setText({"A", "B", "C", "D", "E", "F"}, {}, "Seas"));
-        view_ = std::make_unique<RecordingBoardView>();
-        game_ = std::make_unique<BoardGame>(*view_, settings_, libraries_);
-        view_->game = game_.get();
+        setUp(5);
+        ForceGameMode(false); // the lock only where a test opens a clue
+        startRules(setText({"A", "B", "C", "D", "E", "F"}, {}, "Seas"), 3, false);
         buzzIn_ = std::make_unique<BuzzIn>(*game_);
         buzzIn_->setEnabled(true);
         answers_ = std::make_unique<TeamAnswers>(*game_);
-        game_->setTeams(3);
         game_->start();
         room_ = std::make_unique<PlayersRoom>();
         startServer();
@@ -144,12 +116,7 @@ private slots:
         room_.reset();
         answers_.reset();
         buzzIn_.reset();
-        game_.reset();
-        view_.reset();
-        sound_.reset();
-        boxes_.reset();
-        clock_.reset();
-        ForceGameMode(false);
+        tearDown();
     }
 
     void joiningTakesTheRoomCode()

@@ -1,57 +1,23 @@
 // The rules of play on BoardGame alone, with a recording board, the fake
 // clock, scripted message boxes and the fake sound library: no widgets.
 // Round set-up, tile presses, the answer screen's steps, daily doubles, the
-// final, scoring keys, the end, and what the game announces to watchers.
+// final, scoring keys and the end.
 
-#include "FakeClock.h"
-#include "FakeSoundControl.h"
-#include "RecordingBoardView.h"
-#include "RunMode.h"
-#include "ScriptedMsgBox.h"
-#include "TestSets.h"
+#include "GameFixture.h"
 
-#include "game/BoardGame.h"
 #include "game/GameRules.h"
-#include "game/GameState.h"
-#include "platform/ModuleFileName.h"
-#include "shell/Libraries.h"
-#include "shell/basDetectDevEnv.h"
 
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QtTest>
 
 namespace {
 constexpr int kAllThree = 7; // SHIFT, CTRL and ALT
 } // namespace
 
-class TestRules : public QObject {
+class TestRules : public QObject, GameFixture {
     Q_OBJECT
 
-    QTemporaryDir dir_;
-    GameState settings_;
-    Libraries libraries_;
-    std::unique_ptr<FakeClock> clock_;
-    std::unique_ptr<ScriptedMsgBox> boxes_;
-    std::unique_ptr<FakeSoundControl> sound_;
-    std::unique_ptr<RecordingBoardView> view_;
-    std::unique_ptr<BoardGame> game_;
-
-
-    // Starts a game as the board does, after the home screen's checks (the
-    // board's load has started the sound library).
-    BoardGame &start(const QByteArray &set, int teams)
-    {
-        libraries_.hSoundLib->InitSound(0);
-        settings_.QuestionFile = writeFile(dir_.filePath(QStringLiteral("game.QZ2")), set);
-        game_.reset();
-        view_ = std::make_unique<RecordingBoardView>();
-        game_ = std::make_unique<BoardGame>(*view_, settings_, libraries_);
-        view_->game = game_.get();
-        game_->setTeams(teams);
-        game_->start();
-        return *game_;
-    }
+    BoardGame &start(const QByteArray &set, int teams) { return startRules(set, teams); }
 
     // Presses as the host makes them: after the 3-second lock.
     void pressTile(int i, int modifiers = 0)
@@ -66,16 +32,6 @@ class TestRules : public QObject {
     }
     bool key(char letter, int modifiers) { return game_->KeyDown(QLatin1Char(letter), -1, modifiers); }
     bool digit(int d, int modifiers = 0) { return game_->KeyDown(QChar(), d, modifiers); }
-
-    bool isDailyDouble(int tile) const { return tile == settings_.DailyDouble1 || tile == settings_.DailyDouble2; }
-    // The first tile of a column that is not a daily double.
-    int plainTile(int column) const
-    {
-        int tile = column;
-        while (isDailyDouble(tile))
-            tile += 6;
-        return tile;
-    }
 
     // Plays a tile through: answer, question, close.
     void playTile(int i)
@@ -92,25 +48,8 @@ class TestRules : public QObject {
     QStringList played() const { return sound_->played(); }
 
 private slots:
-    void init()
-    {
-        settings_ = GameState{};
-        clock_ = std::make_unique<FakeClock>(7);
-        boxes_ = std::make_unique<ScriptedMsgBox>();
-        sound_ = std::make_unique<FakeSoundControl>(libraries_);
-        clock_->onAdvance = [this](int ms) { sound_->advance(ms); };
-        ForceGameMode(true);
-    }
-
-    void cleanup()
-    {
-        game_.reset();
-        view_.reset();
-        sound_.reset();
-        boxes_.reset();
-        clock_.reset();
-        ForceGameMode(false);
-    }
+    void init() { setUp(7); }
+    void cleanup() { tearDown(); }
 
     void wholeGameWithoutScoring()
     {
@@ -125,8 +64,6 @@ private slots:
         QCOMPARE(state().headerCaption[0], QStringLiteral("Rivers"));
         QCOMPARE(state().tileCaption[24], QStringLiteral("$500"));
         QCOMPARE(state().tileCaption[1], QString());
-        QCOMPARE(settings_.DailyDouble1, settings_.DailyDouble2); // one daily double only
-        QCOMPARE(Tiles::column(settings_.DailyDouble1), 0);
         QCOMPARE(view_->count(QStringLiteral("showTileRow")), 5);
         for (int row = 0; row < 5; ++row)
             playTile(row * 6);
@@ -191,43 +128,6 @@ private slots:
         QVERIFY(boxes_->shown[0].text.startsWith(QStringLiteral("Team 2: $ ")));
         QVERIFY(view_->unloaded);
         QCOMPARE(played().last(), QStringLiteral("106"));
-    }
-
-    void everyWatcherHearsEveryChange()
-    {
-        start(setText({"Rivers", "Lakes", "", "", "", ""}, {}, "Seas"), 2);
-        QSignalSpy tiles(game_.get(), &BoardGame::tileChanged), headers(game_.get(), &BoardGame::headerChanged),
-            steps(game_.get(), &BoardGame::stepCodeChanged), scores(game_.get(), &BoardGame::scoreChanged),
-            rounds(game_.get(), &BoardGame::roundChanged), done(game_.get(), &BoardGame::tilesDoneChanged),
-            ended(game_.get(), &BoardGame::gameEnded);
-        // A second watcher sees the same, in the same order.
-        QStringList heard;
-        connect(game_.get(), &BoardGame::tileChanged, this, [&](int t) { heard << QStringLiteral("tile %1").arg(t); });
-        connect(game_.get(), &BoardGame::scoreChanged, this, [&](int t) { heard << QStringLiteral("score %1").arg(t); });
-
-        const int tile = plainTile(1);
-        playTile(tile);
-        QCOMPARE(tiles.size(), 1);
-        QCOMPARE(tiles[0][0].toInt(), tile);
-        QCOMPARE(steps.size(), 3); // "NO" while zooming, "SA|i", then empty
-        QCOMPARE(done.size(), 1);   // counted when the screen closed
-        QVERIFY(digit(2));
-        QCOMPARE(scores.size(), 1);
-        QCOMPARE(scores[0][0].toInt(), 1);
-        QCOMPARE(heard, QStringList({QStringLiteral("tile %1").arg(tile), QStringLiteral("score 1")}));
-
-        pressTile(plainTile(0), kAllThree); // out of play without opening
-        QCOMPARE(tiles.size(), 2);
-        QCOMPARE(done.size(), 2);
-        QVERIFY(key('N', kAllThree));
-        QCOMPARE(rounds.size(), 1);
-        QCOMPARE(settings_.Round, qint16(3));
-        QCOMPARE(headers.size(), 6); // the final clears every title
-        QVERIFY(!ended.size());
-        view_->hideScreen();
-        QVERIFY(key('Q', kAllThree));
-        QCOMPARE(ended.size(), 1);
-        QVERIFY(view_->unloaded);
     }
 
     void answerScreenLocksForThreeSeconds()
@@ -618,20 +518,6 @@ private slots:
         QVERIFY(pressed);
         QCOMPARE(settings_.Round, qint16(2));
         QCOMPARE(state().headerCaption[0], QStringLiteral("Lakes"));
-    }
-
-    void endingTheBoardDuringTheThinkMusicStopsThere()
-    {
-        sound_->setClipLength(105, 30000);
-        start(setText({}, {}, "Seas"), 0);
-        pressScreen();
-        clock_->onAdvance = [&](int ms) {
-            sound_->advance(ms);
-            if (clock_->elapsedMs() > 20000 && !view_->unloaded)
-                view_->Unload(); // the host closed the window meanwhile
-        };
-        pressScreen();
-        QCOMPARE(state().stepCode, QStringLiteral("NO")); // nothing after the wait
     }
 
     void standingsTexts_data()
