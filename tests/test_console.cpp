@@ -3,70 +3,20 @@
 // wagers and team names. Runs with two simulated screens, a laptop and a
 // projector.
 
-#include "FakeClock.h"
-#include "FakeSoundControl.h"
-#include "RunMode.h"
-#include "ScriptedMsgBox.h"
-#include "TestFolder.h"
-#include "TestSets.h"
+#include "HomeFixture.h"
 
 #include "game/GameRules.h"
-#include "game/GameJournal.h"
-#include "game/GameState.h"
-#include "platform/ModuleFileName.h"
-#include "platform/SpecialFolders.h"
-#include "shell/Libraries.h"
-#include "shell/basDetectDevEnv.h"
-#include "ui/board/frmMain.h"
-#include "ui/console/frmConsole.h"
-#include "ui/controls/CommandButton.h"
 #include "ui/controls/ShadowLabel.h"
-#include "ui/select/frmSelect.h"
 
-#include <QComboBox>
 #include <QGuiApplication>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
-#include <QPushButton>
 #include <QScreen>
 #include <QSpinBox>
-#include <QTemporaryDir>
-#include <QtTest>
 
-namespace {
-
-void sendKey(QWidget *w, int key, Qt::KeyboardModifiers m = Qt::NoModifier, quint32 scanCode = 0)
-{
-    QKeyEvent e(QEvent::KeyPress, key, m, scanCode, 0, 0);
-    QCoreApplication::sendEvent(w, &e);
-}
-
-} // namespace
-
-class TestConsole : public QObject {
+class TestConsole : public QObject, HomeFixture {
     Q_OBJECT
 
-    GameState state_;
-    Libraries libraries_;
-    std::unique_ptr<TestFolder> program_;
-    std::unique_ptr<QTemporaryDir> documents_;
-    std::unique_ptr<FakeClock> clock_;
-    std::unique_ptr<ScriptedMsgBox> boxes_;
-    std::unique_ptr<FakeSoundControl> sound_;
-    QPointer<frmSelect> home_;
-
-    frmMain *board() const { return home_->board(); }
-    frmConsole *console() const { return home_->console(); }
-    template <class T = QPushButton>
-    T *on(QWidget *form, const QString &name) const
-    {
-        T *w = form->findChild<T *>(name);
-        if (!w)
-            qFatal("no %s", qPrintable(name));
-        return w;
-    }
     QPushButton *button(const char *array, int i) const
     {
         return on(console(), QStringLiteral("%1(%2)").arg(QLatin1String(array)).arg(i));
@@ -76,13 +26,6 @@ class TestConsole : public QObject {
         return on<ShadowLabel>(board(), QStringLiteral("%1(%2)").arg(QLatin1String(array)).arg(i))->caption();
     }
     void next() { on(console(), QStringLiteral("cmdNext"))->click(); }
-    void startGame(int teams)
-    {
-        home_->cmbScore->setCurrentIndex(teams);
-        home_->lstQuestions->setCurrentRow(0);
-        home_->cmdStart->click();
-        QVERIFY(board());
-    }
 
 private slots:
     void initTestCase()
@@ -93,35 +36,12 @@ private slots:
 
     void init()
     {
-        QFile::remove(GameJournal::defaultPath()); // no game left from another test
-        state_ = GameState{};
-        program_ = std::make_unique<TestFolder>();
+        setUp(3, true);
         program_->write(QStringLiteral("game.QZ2"),
                         setText({"Rivers", "Lakes", "", "", "", ""}, {"", "", "Seas", "", "", ""}, "Oceans"));
-        documents_ = std::make_unique<QTemporaryDir>();
-        SpecialFolders::overridePath(SpecialFolders::kDocuments, documents_->path());
-        clock_ = std::make_unique<FakeClock>(3);
-        boxes_ = std::make_unique<ScriptedMsgBox>();
-        sound_ = std::make_unique<FakeSoundControl>(libraries_);
-        clock_->onAdvance = [this](int ms) { sound_->advance(ms); };
-        home_ = new frmSelect(state_, libraries_);
-        home_->show();
+        openHome();
     }
-
-    void cleanup()
-    {
-        if (home_ && home_->board())
-            delete home_->board();
-        delete home_.data();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        sound_.reset();
-        boxes_.reset();
-        clock_.reset();
-        SpecialFolders::overridePath(SpecialFolders::kDocuments, QString());
-        documents_.reset();
-        program_.reset();
-        ForceGameMode(false);
-    }
+    void cleanup() { tearDown(); }
 
     // With four columns or more a round has two daily doubles: the host
     // sees both starred, and no other tile.
@@ -185,6 +105,7 @@ private slots:
         next();
         next();
         QVERIFY(!board()->screenVisible());
+        QCOMPARE(button("cmdTile", plain)->property("tile").toByteArray(), QByteArray("out"));
         button("cmdPlus", 1)->click(); // the tile's value to team 2
         QCOMPARE(state_.Scores[1], Tiles::value(plain, 1));
         QCOMPARE(boardLabel("lblScore", 1), QStringLiteral("$ ") + FormatScore(Tiles::value(plain, 1)));

@@ -2,27 +2,14 @@
 // the code's texts, the desktop's language chosen, German on the screens,
 // and no text wider than its control in any language.
 
-#include "FakeClock.h"
-#include "FakeSoundControl.h"
-#include "ScriptedMsgBox.h"
-#include "TestFolder.h"
-#include "TestSets.h"
+#include "HomeFixture.h"
 
-#include "game/BoardGame.h"
-#include "game/GameJournal.h"
 #include "game/GameRules.h"
-#include "game/GameState.h"
 #include "help/HelpTexts.h"
-#include "platform/SpecialFolders.h"
-#include "shell/Libraries.h"
-#include "ui/board/frmMain.h"
 #include "ui/buzzers/frmBuzzers.h"
-#include "ui/console/frmConsole.h"
-#include "ui/controls/CommandButton.h"
 #include "ui/controls/ShadowLabel.h"
 #include "ui/editor/frmEditor.h"
 #include "ui/help/frmHowToPlay.h"
-#include "ui/select/frmSelect.h"
 #include "ui/shell/Translations.h"
 
 #include <QCheckBox>
@@ -145,30 +132,10 @@ QStringList cutOff(const QWidget *window)
 
 } // namespace
 
-class TestLanguages : public QObject {
+class TestLanguages : public QObject, HomeFixture {
     Q_OBJECT
 
-    std::unique_ptr<TestFolder> program_;
-    std::unique_ptr<QTemporaryDir> documents_;
-    std::unique_ptr<FakeClock> clock_;
-    std::unique_ptr<ScriptedMsgBox> boxes_;
-    std::unique_ptr<FakeSoundControl> sound_;
-    QPointer<frmSelect> home_;
-    GameState state_;
-    Libraries libraries_;
-
     static QStringList languages() { return {QStringLiteral("de"), QStringLiteral("fr"), QStringLiteral("es"), QStringLiteral("pt")}; }
-    static QString tsFile(const QString &language)
-    {
-        return QStringLiteral(QUIZZARR_TRANSLATIONS "/quizzarr_%1.ts").arg(language);
-    }
-
-    void openHome()
-    {
-        home_ = new frmSelect(state_, libraries_);
-        home_->show();
-        QVERIFY(QTest::qWaitForWindowExposed(home_));
-    }
 
 private slots:
     void initTestCase()
@@ -176,34 +143,15 @@ private slots:
         QFont::insertSubstitution(QStringLiteral("Arial"), QStringLiteral("Liberation Sans"));
         QCOMPARE(QGuiApplication::screens().size(), 2); // the console has a laptop's screen
     }
-
     void init()
     {
-        QFile::remove(GameJournal::defaultPath());
-        state_ = GameState{};
-        program_ = std::make_unique<TestFolder>();
+        setUp(3, true);
         program_->write(QStringLiteral("game.QZ2"),
                         setText({"Rivers", "Lakes", "Seas", "Capitals", "Mountains", "Islands"}, {}, "Oceans"));
-        documents_ = std::make_unique<QTemporaryDir>();
-        SpecialFolders::overridePath(SpecialFolders::kDocuments, documents_->path());
-        clock_ = std::make_unique<FakeClock>(3);
-        boxes_ = std::make_unique<ScriptedMsgBox>();
-        sound_ = std::make_unique<FakeSoundControl>(libraries_);
-        clock_->onAdvance = [this](int ms) { sound_->advance(ms); };
     }
-
     void cleanup()
     {
-        if (home_ && home_->board())
-            delete home_->board();
-        delete home_.data();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        sound_.reset();
-        boxes_.reset();
-        clock_.reset();
-        SpecialFolders::overridePath(SpecialFolders::kDocuments, QString());
-        documents_.reset();
-        program_.reset();
+        tearDown();
         InstallTranslations(QLocale(QLocale::English));
     }
 
@@ -236,7 +184,7 @@ private slots:
             inCode = readTs(scanned);
             QVERIFY(inCode.size() > 200);
         }
-        const Messages translated = readTs(tsFile(language));
+        const Messages translated = readTs(QStringLiteral(QUIZZARR_TRANSLATIONS "/quizzarr_%1.ts").arg(language));
         QStringList missing, unfinished, extra, mismatched;
         for (auto it = inCode.cbegin(); it != inCode.cend(); ++it) {
             if (!translated.contains(it.key()))
@@ -340,9 +288,7 @@ private slots:
         home_->buzzersWindow()->close();
 
         home_->chkBuzzIn->setChecked(true);
-        home_->cmbScore->setCurrentIndex(10);
-        home_->lstQuestions->setCurrentRow(0);
-        home_->cmdStart->click();
+        startGame(10);
         QVERIFY(home_->board() && home_->console());
         QVERIFY(QTest::qWaitForWindowExposed(home_->console()));
         QCOMPARE(home_->console()->screen()->size(), QSize(1366, 768));

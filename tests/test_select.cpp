@@ -2,70 +2,25 @@
 // with its messages and team labels, coming back, its layout, the special
 // folders, and the help screen.
 
-#include "FakeClock.h"
-#include "FakeSoundControl.h"
+#include "HomeFixture.h"
 #include "ListTexts.h"
-#include "ScriptedFileDialog.h"
-#include "ScriptedMsgBox.h"
-#include "TestFolder.h"
-#include "TestSets.h"
 
-#include "ui/controls/ShadowLabel.h"
-#include "game/GameJournal.h"
-#include "game/GameState.h"
-#include "ui/board/frmMain.h"
 #include "help/HelpTexts.h"
-#include "ui/help/frmHowToPlay.h"
-#include "ui/editor/frmEditor.h"
-#include "ui/controls/CaptionControl.h"
-#include "ui/controls/CommandButton.h"
-#include "platform/ModuleFileName.h"
-#include "platform/SpecialFolders.h"
-#include "select/QuestionSetList.h"
-#include "select/SelectLayout.h"
 #include "platform/clsShellFolders.h"
-#include "ui/select/frmSelect.h"
+#include "select/SelectLayout.h"
 #include "shell/PictureLibrary.h"
-#include "shell/basDetectDevEnv.h"
-#include "game/GameState.h"
-#include "shell/Libraries.h"
+#include "ui/controls/CaptionControl.h"
+#include "ui/controls/ShadowLabel.h"
+#include "ui/editor/frmEditor.h"
+#include "ui/help/frmHowToPlay.h"
 
-#include <QComboBox>
-#include <QLineEdit>
 #include <QLabel>
-#include <QListWidget>
+#include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QPushButton>
-#include <QtTest>
 
-class TestSelect : public QObject {
+class TestSelect : public QObject, HomeFixture {
     Q_OBJECT
 
-    std::unique_ptr<TestFolder> program_;
-    std::unique_ptr<QTemporaryDir> documents_;
-    std::unique_ptr<ScriptedMsgBox> boxes_;
-    std::unique_ptr<FakeClock> clock_;
-    std::unique_ptr<ScriptedFileDialog> dialogs_;
-    QPointer<frmSelect> home_;
-    GameState state_;
-    Libraries libraries_;
-
-    QString docs() const { return documents_->path() + QLatin1Char('/'); }
-    void writeDoc(const QString &name, const QByteArray &bytes)
-    {
-        QFile f(docs() + name);
-        QVERIFY(f.open(QIODevice::WriteOnly));
-        f.write(bytes);
-    }
-
-    frmSelect *openHome()
-    {
-        home_ = new frmSelect(state_, libraries_);
-        home_->show();
-        return home_;
-    }
-
-    frmMain *board() const { return home_->board(); }
     // A label array of the board, by the names its elements carry.
     QList<ShadowLabel *> labels(const char *array) const
     {
@@ -75,47 +30,10 @@ class TestSelect : public QObject {
         return found;
     }
 
-    // Ends a game the host's way and lets the board go.
-    void quitGame()
-    {
-        QKeyEvent q(QEvent::KeyPress, Qt::Key_Q, Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier);
-        QCoreApplication::sendEvent(board(), &q);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
-
 private slots:
     void initTestCase() { QFont::insertSubstitution(QStringLiteral("Arial"), QStringLiteral("Liberation Sans")); }
-
-    void init()
-    {
-        QFile::remove(GameJournal::defaultPath()); // no game left from another test
-        program_ = std::make_unique<TestFolder>();
-        documents_ = std::make_unique<QTemporaryDir>();
-        SpecialFolders::overridePath(SpecialFolders::kDocuments, documents_->path());
-        // The dialogs make a missing desktop folder: never the real one.
-        SpecialFolders::overridePath(SpecialFolders::kDesktop, documents_->filePath(QStringLiteral("Desktop")));
-        boxes_ = std::make_unique<ScriptedMsgBox>();
-        clock_ = std::make_unique<FakeClock>();
-        dialogs_ = std::make_unique<ScriptedFileDialog>();
-    }
-
-    void cleanup()
-    {
-        if (home_ && home_->board())
-            delete home_->board();
-        delete home_.data();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        clock_.reset();
-        dialogs_.reset();
-        boxes_.reset();
-        SpecialFolders::overridePath(SpecialFolders::kDocuments, QString());
-        SpecialFolders::overridePath(SpecialFolders::kDesktop, QString());
-        documents_.reset();
-        program_.reset();
-        libraries_.ShutdownLibraries();
-        ModuleFileName::overridePath(QString());
-        basDetectDevEnv::ForgetRunMode();
-    }
+    void init() { setUp(); }
+    void cleanup() { tearDown(); }
 
     void listsSetsOfBothFoldersSortedWithoutCase()
     {
@@ -173,20 +91,6 @@ private slots:
         QVERIFY(clsShellFolders().GetSpecialFolderLocation(0, 0).endsWith(QLatin1Char('/')));
     }
 
-    void startWithoutSelectionAsksForOne()
-    {
-        program_->write(QStringLiteral("a.QZ2"), playableSet("A"));
-        openHome();
-        home_->lstQuestions->clearSelection();
-        home_->cmdStart->click();
-        QCOMPARE(boxes_->shown.size(), 1);
-        QCOMPARE(boxes_->shown[0].text, QStringLiteral("Please select a question set to use before starting the game."));
-        QCOMPARE(boxes_->shown[0].style, MsgBoxStyle::Information);
-        QCOMPARE(boxes_->shown[0].caption, QStringLiteral("PLOV(tm) Quizzarr!"));
-        QVERIFY(!board());
-        QVERIFY(home_->isVisible());
-    }
-
     void vanishedFilesLeaveTheList()
     {
         program_->write(QStringLiteral("a.QZ2"), playableSet("A"));
@@ -213,7 +117,9 @@ private slots:
         QVERIFY(home_->cmdStart->isVisible());
         home_->cmdStart->click();
         QCOMPARE(boxes_->shown.last().text, QStringLiteral("Please select a question set to use before starting the game."));
-        QVERIFY(home_->isVisible());
+        QCOMPARE(boxes_->shown.last().style, MsgBoxStyle::Information);
+        QCOMPARE(boxes_->shown.last().caption, QStringLiteral("PLOV(tm) Quizzarr!"));
+        QVERIFY(home_->isVisible() && !board());
     }
 
     void startsTheGameWithTheChosenTeams_data()

@@ -2,25 +2,14 @@
 // descriptions, the widest name it remembers, and the listing made on
 // another core at start.
 
+#include "HomeFixture.h"
 #include "ListTexts.h"
-#include "TestFolder.h"
-#include "TestSets.h"
 
-#include "game/GameState.h"
-#include "platform/SpecialFolders.h"
 #include "select/QuestionSetList.h"
-#include "shell/Libraries.h"
 #include "shell/StartupPrefetch.h"
-#include "ui/select/frmSelect.h"
-
-#include <QListWidget>
-#include <QPointer>
-#include <QtTest>
 
 #include <fcntl.h>
 #include <sys/stat.h>
-
-#include <memory>
 
 namespace {
 
@@ -34,35 +23,13 @@ QStringList lines(std::initializer_list<const char *> texts)
 
 } // namespace
 
-class TestSetList : public QObject {
+class TestSetList : public QObject, HomeFixture {
     Q_OBJECT
-
-    std::unique_ptr<TestFolder> program_;
-    std::unique_ptr<QTemporaryDir> documents_;
-    QPointer<frmSelect> home_;
-    GameState state_;
-    Libraries libraries_;
-
-    QString docs() const { return documents_->path() + QLatin1Char('/'); }
-    void writeDoc(const QString &name, const QByteArray &bytes) { writeFile(docs() + name, bytes); }
 
 private slots:
     void initTestCase() { QFont::insertSubstitution(QStringLiteral("Arial"), QStringLiteral("Liberation Sans")); }
-
-    void init()
-    {
-        program_ = std::make_unique<TestFolder>();
-        documents_ = std::make_unique<QTemporaryDir>();
-        SpecialFolders::overridePath(SpecialFolders::kDocuments, documents_->path());
-    }
-
-    void cleanup()
-    {
-        delete home_.data();
-        SpecialFolders::overridePath(SpecialFolders::kDocuments, QString());
-        documents_.reset();
-        program_.reset();
-    }
+    void init() { setUp(); }
+    void cleanup() { tearDown(); }
 
     // Listing with a cache of descriptions: what it answers must be what
     // reading the files would, whatever changed between listings. The
