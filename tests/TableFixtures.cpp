@@ -1,7 +1,6 @@
 #include "TableFixtures.h"
 
 #include <minizip/zip.h>
-#include <xlsxwriter.h>
 
 #include <QFile>
 #include <QProcess>
@@ -56,52 +55,6 @@ void writeZip(const QString &path, const QList<QPair<QString, QByteArray>> &entr
     }
     if (zipClose(zip, nullptr) != ZIP_OK)
         qFatal("cannot close %s", qPrintable(path));
-}
-
-void writeXlsx(const QString &path, const Rows &rows, bool numbersAsNumbers)
-{
-    lxw_workbook *book = workbook_new(QFile::encodeName(path).constData());
-    lxw_worksheet *sheet = workbook_add_worksheet(book, "Clues");
-    for (qsizetype r = 0; r < rows.size(); ++r) {
-        for (qsizetype c = 0; c < rows[r].size(); ++c) {
-            bool number = false;
-            const double value = rows[r][c].toDouble(&number);
-            if (numbersAsNumbers && number)
-                worksheet_write_number(sheet, lxw_row_t(r), lxw_col_t(c), value, nullptr);
-            else if (!rows[r][c].isEmpty())
-                worksheet_write_string(sheet, lxw_row_t(r), lxw_col_t(c), rows[r][c].toUtf8().constData(), nullptr);
-        }
-    }
-    lxw_worksheet *other = workbook_add_worksheet(book, "Notes");
-    worksheet_write_string(other, 0, 0, "not a header", nullptr);
-    if (workbook_close(book) != LXW_NO_ERROR)
-        qFatal("cannot write %s", qPrintable(path));
-}
-
-QString odsRow(const QStringList &cells)
-{
-    QString xml = QStringLiteral("<table:table-row>");
-    for (const QString &cell : cells)
-        xml += QStringLiteral("<table:table-cell office:value-type=\"string\"><text:p>") + cell.toHtmlEscaped() +
-               QStringLiteral("</text:p></table:table-cell>");
-    return xml + QStringLiteral("</table:table-row>");
-}
-
-void writeOds(const QString &path, const QString &rowsXml)
-{
-    const QString content =
-        QStringLiteral("<?xml version=\"1.0\" encoding=\"UTF-8\"?>"
-                       "<office:document-content xmlns:office=\"urn:oasis:names:tc:opendocument:xmlns:office:1.0\" "
-                       "xmlns:table=\"urn:oasis:names:tc:opendocument:xmlns:table:1.0\" "
-                       "xmlns:text=\"urn:oasis:names:tc:opendocument:xmlns:text:1.0\" office:version=\"1.3\">"
-                       "<office:body><office:spreadsheet><table:table table:name=\"Clues\">"
-                       "<table:table-column table:number-columns-repeated=\"4\"/>") +
-        rowsXml +
-        QStringLiteral("</table:table><table:table table:name=\"Notes\"><table:table-row><table:table-cell>"
-                       "<text:p>not a header</text:p></table:table-cell></table:table-row></table:table>"
-                       "</office:spreadsheet></office:body></office:document-content>");
-    writeZip(path, {{QStringLiteral("mimetype"), "application/vnd.oasis.opendocument.spreadsheet"},
-                    {QStringLiteral("content.xml"), content.toUtf8()}});
 }
 
 bool equalSets(const QuestionSet &a, const QuestionSet &b, QString *where)

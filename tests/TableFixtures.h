@@ -1,6 +1,5 @@
-// Spreadsheet files made for a test: CSV text, workbooks written by
-// libxlsxwriter as a spreadsheet program saves them, and zips put together
-// entry by entry for the layouts other programs write.
+// Spreadsheet files made for a test: CSV text and zips put together entry
+// by entry.
 #pragma once
 
 #include "questions/QuestionSet.h"
@@ -26,17 +25,6 @@ QByteArray csvText(const Rows &rows, char separator = ',', const QByteArray &lin
 
 // A zip of the given files, compressed.
 void writeZip(const QString &path, const QList<QPair<QString, QByteArray>> &entries);
-
-// A workbook as libxlsxwriter writes it: the rows from A1 on (texts that
-// read as numbers stored as numbers when asked), and a second sheet that
-// must not be read.
-void writeXlsx(const QString &path, const Rows &rows, bool numbersAsNumbers);
-
-// An OpenDocument spreadsheet whose first sheet holds the given rows
-// (table:table-row elements), and a second sheet that must not be read.
-void writeOds(const QString &path, const QString &rowsXml);
-// One row of plain text cells.
-QString odsRow(const QStringList &cells);
 
 // Whether two sets hold the same description, timer, counts, texts and
 // pictures; where not, where.
