@@ -3,7 +3,6 @@
 #include <minizip/zip.h>
 
 #include <QFile>
-#include <QProcess>
 
 Rows setRows(int round1, int round2, bool final)
 {
@@ -88,23 +87,4 @@ bool equalSets(const QuestionSet &a, const QuestionSet &b, QString *where)
         }
     }
     return true;
-}
-
-int runQz2(const QStringList &args, QByteArray *out, QByteArray *err)
-{
-    QProcess p;
-    p.start(QStringLiteral(QUIZZARR_PROGRAM_DIR "/qz2"), args);
-    if (!p.waitForFinished(20000))
-        return -1;
-    if (out)
-        *out = p.readAllStandardOutput();
-    if (err)
-        *err = p.readAllStandardError();
-    return p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1;
-}
-
-QByteArray readFile(const QString &path)
-{
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
 }

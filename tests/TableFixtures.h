@@ -29,9 +29,3 @@ void writeZip(const QString &path, const QList<QPair<QString, QByteArray>> &entr
 // Whether two sets hold the same description, timer, counts, texts and
 // pictures; where not, where.
 bool equalSets(const QuestionSet &a, const QuestionSet &b, QString *where);
-
-// Runs the built qz2 and waits for it; its exit status, or -1.
-int runQz2(const QStringList &args, QByteArray *out = nullptr, QByteArray *err = nullptr);
-
-// A file's bytes, or none.
-QByteArray readFile(const QString &path);

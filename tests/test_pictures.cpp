@@ -37,11 +37,6 @@
 
 namespace {
 
-QByteArray crlf(const QStringList &lines)
-{
-    return lines.join(QStringLiteral("\r\n")).toUtf8() + "\r\n";
-}
-
 QByteArray gzip(const QByteArray &bytes)
 {
     z_stream z{};
@@ -74,19 +69,6 @@ class TestPictures : public QObject {
     QTemporaryDir dir_;
 
     QString write(const QString &name, const QByteArray &bytes) { return writeFile(dir_.filePath(name), bytes); }
-
-    int runQz2(const QStringList &args, QByteArray *out)
-    {
-        QProcess p;
-        p.start(QStringLiteral(QUIZZARR_PROGRAM_DIR "/qz2"), args);
-        if (!p.waitForFinished(20000)) {
-            p.kill();
-            p.waitForFinished();
-            return -1;
-        }
-        *out = p.readAllStandardOutput();
-        return p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1;
-    }
 
 private slots:
     void picturesTravelWithTheirCluesAndOnlyWhenThere()

@@ -13,11 +13,6 @@
 
 namespace {
 
-QString programFile(const QString &name)
-{
-    return QStringLiteral(QUIZZARR_PROGRAM_DIR "/") + name;
-}
-
 Table tableOf(const Rows &rows)
 {
     Table table;
@@ -56,8 +51,6 @@ class TestTables : public QObject {
     QString path(const QString &name) const { return dir_.filePath(name); }
 
     QString write(const QString &name, const QByteArray &bytes) { return writeFile(path(name), bytes); }
-
-    QByteArray read(const QString &file) const { return readFile(file); }
 
 private slots:
     // ------------------------------------------------------------ the rows
@@ -196,7 +189,7 @@ private slots:
         QCOMPARE(runQz2({QStringLiteral("import"), table}, &out, &err), 1);
         QCOMPARE(QString::fromUtf8(err), QStringLiteral("qz2: ") + table + QStringLiteral(": ") + message + QLatin1Char('\n'));
         QVERIFY(out.isEmpty());
-        QCOMPARE(read(old), QByteArray("old bytes"));
+        QCOMPARE(readFile(old), QByteArray("old bytes"));
         QVERIFY(!QFile::exists(path(QStringLiteral("other.QZ2"))));
         QCOMPARE(runQz2({QStringLiteral("import"), table, path(QStringLiteral("other"))}), 1);
         QVERIFY(!QFile::exists(path(QStringLiteral("other.QZ2"))));
@@ -250,7 +243,7 @@ private slots:
     {
         const QString csv = path(QStringLiteral("look.csv")), xlsx = path(QStringLiteral("look.xlsx"));
         QVERIFY(!WriteTableFile(TableFromQuestionSet(awkwardSet(6)), csv));
-        const QByteArray text = read(csv);
+        const QByteArray text = readFile(csv);
         QVERIFY(text.startsWith("\xEF\xBB\xBF" "Round,Category,Value,Clue,Response,Picture\r\n"
                                 "1,R0C0 title,100,\"Commas, \"\"quotes\"\" and; semicolons\tand a tab\","));
         QVERIFY(text.contains("\r\n2,R1C0 title,1000,clue 1.0.4 = yes,What is 1.0.4?,\r\n"));
@@ -348,7 +341,7 @@ private slots:
         QCOMPARE(runQz2({QStringLiteral("import"), table, path(QStringLiteral("back")), QStringLiteral("--description"),
                          original.Description, QStringLiteral("--timer"), QString::number(original.Timer)}),
                  0);
-        QCOMPARE(read(path(QStringLiteral("back.QZ2"))), read(sample));
+        QCOMPARE(readFile(path(QStringLiteral("back.QZ2"))), readFile(sample));
     }
 
     void qz2ExportSaysWhatItCannotDo()

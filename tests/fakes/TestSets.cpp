@@ -1,6 +1,7 @@
 #include "TestSets.h"
 
 #include <QFile>
+#include <QProcess>
 
 QByteArray setText(const QList<const char *> &round1, const QList<const char *> &round2, const char *final)
 {
@@ -82,4 +83,36 @@ QByteArray playableSet(const QByteArray &description)
 {
     return "[Round1]\r\nDescription=" + description + "\r\nCategory0=Rivers\r\n\r\n[Round1Category0]\r\n"
            "Answer0=a\r\nQuestion0=q\r\n";
+}
+
+QByteArray crlf(const QStringList &lines)
+{
+    return lines.join(QStringLiteral("\r\n")).toUtf8() + "\r\n";
+}
+
+QByteArray readFile(const QString &path)
+{
+    QFile f(path);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}
+
+QString programFile(const QString &name)
+{
+    return QStringLiteral(QUIZZARR_PROGRAM_DIR "/") + name;
+}
+
+int runQz2(const QStringList &args, QByteArray *out, QByteArray *err)
+{
+    QProcess p;
+    p.start(programFile(QStringLiteral("qz2")), args);
+    if (!p.waitForFinished(20000)) {
+        p.kill();
+        p.waitForFinished();
+        return -1;
+    }
+    if (out)
+        *out = p.readAllStandardOutput();
+    if (err)
+        *err = p.readAllStandardError();
+    return p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1;
 }

@@ -26,3 +26,15 @@ QuestionSet distinctSet();
 
 // Whether two sets hold the same description and texts; where not, where.
 bool sameTexts(const QuestionSet &a, const QuestionSet &b, QString *where);
+
+// Lines joined by CR LF, the last one ended too.
+QByteArray crlf(const QStringList &lines);
+
+// A file's bytes, or none.
+QByteArray readFile(const QString &path);
+
+// A file of the built program folder.
+QString programFile(const QString &name);
+
+// Runs the built qz2 and waits for it; its exit status, or -1.
+int runQz2(const QStringList &args, QByteArray *out = nullptr, QByteArray *err = nullptr);
