@@ -101,6 +101,49 @@ private slots:
             << QByteArray("[\xc3\xa9]\r\n\xe2\x84\xaa=kelvin\r\nk=plain\r\n\xe9=e\r\n") << "\u00c3\u00a9" << "K" << "plain";
         QTest::newRow("empty file") << QByteArray() << "A" << "k" << "DEFAULT";
         QTest::newRow("NUL bytes") << QByteArray("[A]\r\nk=a\0b\r\n", 11) << "A" << "k" << QString::fromUtf8("a\0b", 3);
+        // Byte-order marks past the file's start are text.
+        const QByteArray mark(Utf8::kByteOrderMark);
+        const QString feff(QChar(0xFEFF));
+
+        QTest::newRow("mark at the file start")
+            << mark + "[A]\r\nk=v\r\n" << "A" << "k" << "v";
+        QTest::newRow("value starting with a mark")
+            << mark + "[A]\r\nk=" + mark + "v\r\n" << "A" << "k" << feff + QStringLiteral("v");
+        QTest::newRow("value that is a mark alone")
+            << mark + "[A]\r\nk=" + mark + "\r\n" << "A" << "k" << feff;
+        QTest::newRow("mark before a key is part of the key")
+            << mark + "[A]\r\n" + mark + "k=marked\r\nk=plain\r\n" << "A" << "k" << "plain";
+        QTest::newRow("key asked with its mark")
+            << mark + "[A]\r\n" + mark + "k=marked\r\nk=plain\r\n" << "A" << feff + QStringLiteral("k")
+            << "marked";
+        QTest::newRow("mark inside a section name")
+            << mark + "[A]\r\nk=a\r\n[" + mark + "B]\r\nk=b\r\n" << "B" << "k" << "DEFAULT";
+        // Each byte that is no UTF-8 shows as a replacement character, at
+        // the value's end as anywhere else.
+        QTest::newRow("bytes that are no UTF-8 in a marked file")
+            << mark + "[A]\r\nk=\xe2\x82 \xe2\x82\r\n" << "A" << "k" << QStringLiteral("\ufffd\ufffd \ufffd\ufffd");
+        QTest::newRow("mark in a file without one at its start")
+            << "[A]\r\nk=" + mark + "v \xc3\xa9\r\n" << "A" << "k" << feff + QStringLiteral("v \u00e9");
+        // Lines of any length.
+        const QByteArray blanks(70000, ' ');
+        const QByteArray tabs(70000, '\t');
+        const QByteArray letters(70000, 'x');
+        QTest::newRow("long section line ends the section")
+            << "[A]\r\n[" + letters + "]\r\nk=v\r\n" << "A" << "k" << "DEFAULT";
+        QTest::newRow("section name between long blanks")
+            << "[A]\r\nk=a\r\n[" + blanks + "B" + tabs + "]\r\nk=b\r\n" << "B" << "k" << "b";
+        QTest::newRow("long line without ] is no section")
+            << "[A]\r\n[" + letters + "\r\nk=v\r\n" << "A" << "k" << "v";
+        QTest::newRow("key after long blanks") << "[A]\r\n" + blanks + "k=v\r\n" << "A" << "k" << "v";
+        QTest::newRow("long key is another key")
+            << "[A]\r\n" + letters + "k=w\r\nk=v\r\n" << "A" << "k" << "v";
+        QTest::newRow("value after long blanks") << "[A]\r\nk=" + blanks + "v" + tabs + "\r\n" << "A" << "k" << "v";
+        QTest::newRow("quoted value between long blanks")
+            << "[A]\r\nk=" + blanks + "\"v\"" + blanks << "A" << "k" << "v";
+        QTest::newRow("long blanks inside a value are kept")
+            << "[A]\r\nk=a" + blanks + "b\r\n" << "A" << "k" << QStringLiteral("a") + QString(1998, QLatin1Char(' '));
+        QTest::newRow("long quoted value loses its opening mark")
+            << "[A]\r\nk='" + letters + "'\r\n" << "A" << "k" << QString(1999, QLatin1Char('x'));
     }
     void readsOneValueByTheRules()
     {
