@@ -4,6 +4,7 @@
 
 #include "ScriptedFileDialog.h"
 #include "ScriptedMsgBox.h"
+#include "TestSets.h"
 
 #include "platform/SpecialFolders.h"
 #include "ui/editor/frmEditor.h"
@@ -24,11 +25,7 @@ protected:
 
     QString path(const QString &name) const { return dir_->filePath(name); }
 
-    QByteArray read(const QString &file) const
-    {
-        QFile f(file);
-        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-    }
+    QByteArray read(const QString &file) const { return readFile(file); }
 
     frmEditor *open(const QString &fileToLoad = QString())
     {
@@ -37,6 +34,18 @@ protected:
         editor_->FileToLoad = fileToLoad;
         editor_->show();
         return editor_;
+    }
+
+    // A whole set of distinct texts, "Sample", 25 s, in Sets/Quiz.QZ2.
+    QString sampleSet()
+    {
+        QuestionSet s = distinctSet();
+        s.Description = QStringLiteral("Sample");
+        const QString file = path(QStringLiteral("Sets/Quiz.QZ2"));
+        QDir().mkpath(path(QStringLiteral("Sets")));
+        if (WriteQuestionSet(s, file))
+            qFatal("cannot write the sample set");
+        return file;
     }
 
     // For each test's init() and cleanup().
