@@ -24,6 +24,7 @@
 #include <QtTest>
 
 #include <csignal>
+#include <optional>
 
 namespace {
 
@@ -93,110 +94,73 @@ private slots:
         QCOMPARE(Tiles::caption(24, 2), QStringLiteral("$1000"));
     }
 
-    void reportsBothMissingLibrariesThenOpensHome()
+    // Start-up on a prepared program folder: each library that cannot be
+    // bound is named in a box of its own (OK only, no icon) before the home
+    // screen shows, the game starts all the same, and closing the home
+    // screen deletes it and releases what was bound.
+    void startUpNamesWhatItCannotLoad_data()
     {
-        TestFolder empty;
+        QTest::addColumn<QString>("folder");
+        QTest::addColumn<QStringList>("messages"); // %1: the program folder
+        const QString graphics = QStringLiteral("Unable to load %1PLOVQBmp.so. The game will still work, but with no graphics.");
+        const QString sounds = QStringLiteral("Unable to load %1PLOVQSnd.so. The game will still work, but with no sounds.");
+        QTest::newRow("nothing there") << "empty" << QStringList{graphics, sounds};
+        QTest::newRow("both there") << "program" << QStringList{};
+        QTest::newRow("a sound file that is no library") << "junk" << QStringList{sounds};
+        for (const char *operation : kSoundOperations)
+            QTest::newRow(operation) << QString::fromLatin1(operation) << QStringList{sounds};
+        QTest::newRow("the file system's root") << "/" << QStringList{graphics, sounds};
+    }
+    void startUpNamesWhatItCannotLoad()
+    {
+        QFETCH(QString, folder);
+        QFETCH(QStringList, messages);
+        const QString homeTitle = QStringLiteral("Select the question set to use");
+        std::optional<TestFolder> prepared;
+        QString path = folder == QStringLiteral("program") ? QStringLiteral(QUIZZARR_PROGRAM_DIR "/") : folder;
+        if (path.startsWith(QLatin1Char('/'))) {
+            ModuleFileName::overrideProgramFolder(path);
+        } else {
+            prepared.emplace();
+            path = prepared->path();
+            const QString variant = QStringLiteral(FAKE_SOUND_VARIANTS "/") + folder + QStringLiteral("/PLOVQSnd.so");
+            if (folder.startsWith(QStringLiteral("PLOV_"))) {
+                QLibrary lacking(variant);
+                QVERIFY2(lacking.load(), qPrintable(lacking.errorString()));
+                for (const char *operation : kSoundOperations)
+                    QCOMPARE(lacking.resolve(operation) != nullptr, folder != QLatin1String(operation));
+                QVERIFY(QFile::copy(variant, prepared->file(QStringLiteral("PLOVQSnd.so"))));
+            } else if (folder == QStringLiteral("junk")) {
+                prepared->write(QStringLiteral("PLOVQSnd.so"), "not a library at all");
+            }
+            if (folder != QStringLiteral("empty"))
+                QVERIFY(QFile::copy(QStringLiteral(QUIZZARR_PROGRAM_DIR "/PLOVQBmp.so"), prepared->file(QStringLiteral("PLOVQBmp.so"))));
+        }
         ScriptedMsgBox boxes;
         state_.Round = 3;
-        boxes.whileShown = [](const ShownBox &) {
-            // The home screen comes only after both messages.
-            QVERIFY(!visibleWindowTitled(QStringLiteral("Select the question set to use")));
+        boxes.whileShown = [&](const ShownBox &box) {
+            QVERIFY(!visibleWindowTitled(homeTitle));
+            QCOMPARE(box.style, 0);
+            QCOMPARE(box.caption, QStringLiteral("PLOV(tm) Quizzarr!"));
         };
 
         basPLOVQuzr::Main(state_, libraries_);
 
-        QCOMPARE(boxes.shown.size(), 2);
-        QCOMPARE(boxes.shown[0].text, QStringLiteral("Unable to load ") + empty.file(QStringLiteral("PLOVQBmp.so")) +
-                                          QStringLiteral(". The game will still work, but with no graphics."));
-        QCOMPARE(boxes.shown[1].text, QStringLiteral("Unable to load ") + empty.file(QStringLiteral("PLOVQSnd.so")) +
-                                          QStringLiteral(". The game will still work, but with no sounds."));
-        for (const ShownBox &box : boxes.shown) {
-            QCOMPARE(box.style, 0); // OK only, no icon
-            QCOMPARE(box.caption, QStringLiteral("PLOV(tm) Quizzarr!"));
-        }
-        QVERIFY(!libraries_.hPictureLib);
-        QVERIFY(!libraries_.hSoundLib);
+        QStringList shown, expected;
+        for (const ShownBox &box : boxes.shown)
+            shown << box.text;
+        for (const QString &m : messages)
+            expected << m.arg(path);
+        QCOMPARE(shown, expected);
+        QCOMPARE(bool(libraries_.hPictureLib), !expected.join(QString()).contains(QStringLiteral("graphics")));
+        QCOMPARE(bool(libraries_.hSoundLib), !expected.join(QString()).contains(QStringLiteral("sounds")));
         QCOMPARE(state_.Round, qint16(1));
-
-        QWidget *home = visibleWindowTitled(QStringLiteral("Select the question set to use"));
+        QPointer<QWidget> home = visibleWindowTitled(homeTitle);
         QVERIFY(home);
-        QPointer<QWidget> guard(home);
         home->close();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QVERIFY(guard.isNull()); // deleted on close
-    }
-
-    void bindsBothLibrariesFromProgramFolderWithoutMessages()
-    {
-        ModuleFileName::overrideProgramFolder(QStringLiteral(QUIZZARR_PROGRAM_DIR));
-        ScriptedMsgBox boxes;
-
-        basPLOVQuzr::Main(state_, libraries_);
-
-        QVERIFY(boxes.shown.isEmpty());
-        QVERIFY(libraries_.hPictureLib);
-        QVERIFY(libraries_.hSoundLib);
-        QWidget *home = visibleWindowTitled(QStringLiteral("Select the question set to use"));
-        QVERIFY(home);
-        home->close();
-        QVERIFY(!libraries_.hPictureLib);
-        QVERIFY(!libraries_.hSoundLib);
-    }
-
-    void reportsOneMissingLibraryOnly()
-    {
-        TestFolder folder;
-        QVERIFY(QFile::copy(QStringLiteral(QUIZZARR_PROGRAM_DIR "/PLOVQBmp.so"), folder.file(QStringLiteral("PLOVQBmp.so"))));
-        folder.write(QStringLiteral("PLOVQSnd.so"), "not a library at all");
-        ScriptedMsgBox boxes;
-
-        basPLOVQuzr::Main(state_, libraries_);
-
-        QVERIFY(libraries_.hPictureLib);
-        QVERIFY(!libraries_.hSoundLib);
-        QCOMPARE(boxes.shown.size(), 1);
-        QVERIFY(boxes.shown[0].text.endsWith(QStringLiteral("but with no sounds.")));
-        visibleWindowTitled(QStringLiteral("Select the question set to use"))->close();
-    }
-
-    void soundLibraryLackingAnOperationCountsAsMissing_data()
-    {
-        QTest::addColumn<QString>("missing");
-        for (const char *operation : kSoundOperations)
-            QTest::newRow(operation) << QString::fromLatin1(operation);
-    }
-    void soundLibraryLackingAnOperationCountsAsMissing()
-    {
-        QFETCH(QString, missing);
-        const QString variant = QStringLiteral(FAKE_SOUND_VARIANTS "/") + missing + QStringLiteral("/PLOVQSnd.so");
-        QLibrary lacking(variant);
-        QVERIFY2(lacking.load(), qPrintable(lacking.errorString()));
-        for (const char *operation : kSoundOperations)
-            QCOMPARE(lacking.resolve(operation) != nullptr, missing != QLatin1String(operation));
-        TestFolder folder;
-        QVERIFY(QFile::copy(QStringLiteral(QUIZZARR_PROGRAM_DIR "/PLOVQBmp.so"), folder.file(QStringLiteral("PLOVQBmp.so"))));
-        QVERIFY(QFile::copy(variant, folder.file(QStringLiteral("PLOVQSnd.so"))));
-        ScriptedMsgBox boxes;
-
-        basPLOVQuzr::Main(state_, libraries_);
-
-        QVERIFY(!libraries_.hSoundLib);
-        QCOMPARE(boxes.shown.size(), 1);
-        QCOMPARE(boxes.shown[0].text, QStringLiteral("Unable to load ") + folder.file(QStringLiteral("PLOVQSnd.so")) +
-                                          QStringLiteral(". The game will still work, but with no sounds."));
-        visibleWindowTitled(QStringLiteral("Select the question set to use"))->close();
-    }
-
-    void libraryPathAtFileSystemRootHasOneSeparator()
-    {
-        ModuleFileName::overrideProgramFolder(QStringLiteral("/"));
-        QCOMPARE(Libraries::PictureLibraryPath(), QStringLiteral("/PLOVQBmp.so"));
-        QCOMPARE(Libraries::SoundLibraryPath(), QStringLiteral("/PLOVQSnd.so"));
-        ScriptedMsgBox boxes;
-        basPLOVQuzr::Main(state_, libraries_);
-        QCOMPARE(boxes.shown.size(), 2);
-        QVERIFY(boxes.shown[0].text.startsWith(QStringLiteral("Unable to load /PLOVQBmp.so. ")));
-        visibleWindowTitled(QStringLiteral("Select the question set to use"))->close();
+        QVERIFY(home.isNull());
+        QVERIFY(!libraries_.hPictureLib && !libraries_.hSoundLib);
     }
 
     void runModeComparesExecutableWithItsOwnName_data()
