@@ -1,8 +1,8 @@
 // Buzz-in: the rules on the fake clock with a recording board (when the
 // buzzers open, early buzzes, the order by the time a buzz was made, Right,
 // Wrong, everyone out, clues that take no buzzes, undo), then the buzzers
-// themselves: keys through real key events, joysticks through SDL's virtual
-// joystick, and what is learned kept in the user's settings.
+// themselves: a button's presses told from its bounces, keys through real
+// key events, and what is learned kept in the user's settings.
 
 #include "GameFixture.h"
 #include "TestFolder.h"
@@ -24,7 +24,6 @@
 #include <QStandardPaths>
 #include <QtTest>
 
-#include <SDL2/SDL.h>
 
 namespace {
 
@@ -315,53 +314,6 @@ private slots:
         SpecialFolders::overridePath(SpecialFolders::kDocuments, QString());
     }
 
-    // A joystick, through SDL's own virtual device: learned by a press,
-    // unplugged, plugged in again, and still that team's buzzer.
-    void aJoystickPluggedInAgainStillBuzzes()
-    {
-        openClue();
-        BuzzerInputs inputs;
-        inputs.attach(buzzIn_.get());
-        QSignalSpy learned(&inputs, &BuzzerInputs::learned);
-        inputs.learn(2); // starts the reader
-        if (!inputs.joysticksAvailable())
-            QSKIP("SDL2 cannot be loaded here");
-        QCOMPARE(SDL_InitSubSystem(SDL_INIT_JOYSTICK), 0);
-        auto plugIn = [] {
-            const int index = SDL_JoystickAttachVirtual(SDL_JOYSTICK_TYPE_ARCADE_STICK, 0, 12, 0);
-            return index >= 0 ? SDL_JoystickOpen(index) : nullptr;
-        };
-        auto unplug = [](SDL_Joystick *pad) {
-            const SDL_JoystickID id = SDL_JoystickInstanceID(pad);
-            for (int i = 0; i < SDL_NumJoysticks(); ++i) {
-                if (SDL_JoystickGetDeviceInstanceID(i) == id)
-                    SDL_JoystickDetachVirtual(i);
-            }
-            SDL_JoystickClose(pad);
-        };
-        SDL_Joystick *pad = plugIn();
-        QVERIFY(pad);
-        QSignalSpy devices(&inputs, &BuzzerInputs::changed);
-        QTRY_VERIFY_WITH_TIMEOUT(inputs.joysticks().size() == 1, 5000);
-        SDL_JoystickSetVirtualButton(pad, 7, 1);
-        QVERIFY(learned.wait(5000));
-        QCOMPARE(inputs.settings().teams[2].kind, BuzzerInput::Button);
-        QCOMPARE(inputs.settings().teams[2].button, 7);
-        SDL_JoystickSetVirtualButton(pad, 7, 0);
-        inputs.setBuzzIn(true);
-        unplug(pad);
-        QTRY_VERIFY_WITH_TIMEOUT(inputs.joysticks().isEmpty(), 5000);
-        pad = plugIn();
-        QTRY_VERIFY_WITH_TIMEOUT(inputs.joysticks().size() == 1, 5000);
-        waitForTheLock();
-        clock_->advance(1000);
-        SDL_JoystickSetVirtualButton(pad, 7, 1);
-        QTRY_VERIFY_WITH_TIMEOUT(!buzzIn_->order().isEmpty(), 5000);
-        QCOMPARE(buzzIn_->answering(), std::optional<int>(2));
-        unplug(pad);
-        inputs.setBuzzIn(false);
-        SDL_QuitSubSystem(SDL_INIT_JOYSTICK);
-    }
 };
 
 QTEST_MAIN(TestBuzzers)

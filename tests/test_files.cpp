@@ -344,27 +344,6 @@ private slots:
         QCOMPARE(GameReads::Description(file), s.Description);
     }
 
-    void survivesRandomAndTruncatedInput()
-    {
-        QRandomGenerator rng(2024);
-        const QByteArray good = QuestionSetFileBytes(distinctSet());
-        for (int n = 0; n < 300; ++n) {
-            QByteArray bytes;
-            if (n % 3 == 0) {
-                bytes = good.left(int(rng.bounded(good.size())));
-            } else {
-                bytes.resize(int(rng.bounded(5000)));
-                for (char &c : bytes)
-                    c = char(n % 3 == 1 ? rng.bounded(256) : "[]=\r\n\"' aR1\xc3\xa9"[rng.bounded(14)]);
-            }
-            const QString path = write(QStringLiteral("fuzz.QZ2"), bytes);
-            const QuestionSet s = LoadQuestionSet(path);
-            QVERIFY(s.RoundCount == 1 || s.RoundCount == 2);
-            QVERIFY(s.Timer >= 5 && s.Timer <= 60);
-            QVERIFY(GameReads::Description(path).size() <= 1999);
-        }
-    }
-
     void bigBinaryFileAnswersWithoutBeingHeldInMemory()
     {
         // 64 MB of random bytes without a line end after the key: one

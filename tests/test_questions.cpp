@@ -170,25 +170,6 @@ private slots:
         QCOMPARE(ReadIniValue(QStringLiteral("A"), QStringLiteral("k"), QString(), path).size(), 1999);
     }
 
-    void loaderGivesDefaultsForAFileThatIsNoSet()
-    {
-        const QString path = write(QStringLiteral("notes.txt"), "just some notes\r\nno sections here\r\n");
-        const QuestionSet s = LoadQuestionSet(path);
-        QCOMPARE(s.Description, QString());
-        QCOMPARE(s.Timer, qint16(20));
-        QCOMPARE(s.RoundCount, qint16(1));
-        QCOMPARE(s.CategoryCount[0], qint16(1));
-        QCOMPARE(s.Categories[0][0].Title, QStringLiteral("Nothing"));
-        for (int j = 0; j < 5; ++j) {
-            QCOMPARE(s.Categories[0][0].Answer[size_t(j)], QStringLiteral("Nothing"));
-            QCOMPARE(s.Categories[0][0].Question[size_t(j)], QStringLiteral("Nothing"));
-        }
-        QCOMPARE(s.Categories[2][0].Title, QStringLiteral("-> NONE <-"));
-        QCOMPARE(s.Categories[2][0].Answer[0], QStringLiteral("Nothing"));
-        QCOMPARE(s.Categories[2][0].Question[0], QStringLiteral("Nothing"));
-        QCOMPARE(s.Categories[0][1].Title, QString()); // beyond the count: as New left it
-    }
-
     void loaderReadsTimerAsWholeSecondsWithinRange_data()
     {
         QTest::addColumn<QString>("timer");

@@ -82,18 +82,6 @@ private slots:
         QCOMPARE(ids.backdrop, screenId + 3);
     }
 
-    void numbersTilesByColumnAndRow()
-    {
-        QCOMPARE(Tiles::column(14), 2);
-        QCOMPARE(Tiles::row(14), 2);
-        QCOMPARE(Tiles::column(29), 5);
-        QCOMPARE(Tiles::row(29), 4);
-        QCOMPARE(Tiles::caption(0, 1), QStringLiteral("$100"));
-        QCOMPARE(Tiles::caption(29, 1), QStringLiteral("$500"));
-        QCOMPARE(Tiles::caption(5, 2), QStringLiteral("$200"));
-        QCOMPARE(Tiles::caption(24, 2), QStringLiteral("$1000"));
-    }
-
     // Start-up on a prepared program folder: each library that cannot be
     // bound is named in a box of its own (OK only, no icon) before the home
     // screen shows, the game starts all the same, and closing the home
