@@ -32,6 +32,14 @@ class TestCompanions : public QObject {
             qFatal("sound library lacks %s", name);
         return f;
     }
+    // The library's operations, as the game calls them.
+    int32_t init() { return api<int32_t (*)(uintptr_t)>("PLOV_InitSound")(0); }
+    int32_t load(int32_t id, int32_t *handle) { return api<int32_t (*)(int32_t, int32_t *)>("PLOV_LoadSound")(id, handle); }
+    void play(int32_t handle) { api<void (*)(int32_t)>("PLOV_PlaySound")(handle); }
+    int32_t status(int32_t handle) { return api<int32_t (*)(int32_t)>("PLOV_GetSoundStatus")(handle); }
+    void unload(int32_t *handle) { api<void (*)(int32_t *)>("PLOV_UnloadSound")(handle); }
+    void seek(int32_t handle, int32_t ms) { api<void (*)(int32_t, int32_t)>("PLOV_SeekSound")(handle, ms); }
+    void shutdown() { api<void (*)()>("PLOV_Shutdown")(); }
 
 private slots:
     void initTestCase()
@@ -52,7 +60,7 @@ private slots:
         // own SIGTERM and SIGINT must stay the game's.
         for (int sig : {SIGTERM, SIGINT})
             std::signal(sig, SIG_DFL);
-        QCOMPARE(api<int32_t (*)(uintptr_t)>("PLOV_InitSound")(0), 0);
+        QCOMPARE(init(), 0);
         QVERIFY(sdlLoaded());
         for (int sig : {SIGTERM, SIGINT}) {
             struct sigaction now {};
@@ -63,7 +71,7 @@ private slots:
 
     void cleanupTestCase()
     {
-        api<void (*)()>("PLOV_Shutdown")();
+        shutdown();
         libraries_.ShutdownLibraries();
     }
 
@@ -126,10 +134,8 @@ private slots:
 
     void everyClipLoadsAndHasItsLength()
     {
-        QCOMPARE(api<int32_t (*)(uintptr_t)>("PLOV_InitSound")(0), 0);
-        auto load = api<int32_t (*)(int32_t, int32_t *)>("PLOV_LoadSound");
+        QCOMPARE(init(), 0);
         auto length = api<int32_t (*)(int32_t)>("PLOV_GetSoundLength");
-        auto unload = api<void (*)(int32_t *)>("PLOV_UnloadSound");
         for (int id = 101; id <= 109; ++id) {
             int32_t handle = 0;
             QCOMPARE(load(id, &handle), 0);
@@ -150,51 +156,48 @@ private slots:
 
     void statusIsOneWhilePlayingAndNotAfterTheEnd()
     {
-        QCOMPARE(api<int32_t (*)(uintptr_t)>("PLOV_InitSound")(0), 0);
-        auto status = api<int32_t (*)(int32_t)>("PLOV_GetSoundStatus");
+        QCOMPARE(init(), 0);
         int32_t handle = 0;
-        QCOMPARE(api<int32_t (*)(int32_t, int32_t *)>("PLOV_LoadSound")(105, &handle), 0);
+        QCOMPARE(load(105, &handle), 0);
         QVERIFY(status(handle) != 1); // loaded, not started
-        api<void (*)(int32_t)>("PLOV_PlaySound")(handle);
+        play(handle);
         QCOMPARE(status(handle), 1);
         // Jump to the end instead of listening for 30 seconds.
-        api<void (*)(int32_t, int32_t)>("PLOV_SeekSound")(handle, 30000);
+        seek(handle, 30000);
         QVERIFY(status(handle) != 1);
-        api<void (*)(int32_t *)>("PLOV_UnloadSound")(&handle);
+        unload(&handle);
         QVERIFY(status(handle) != 1);
         QVERIFY(status(12345) != 1);
     }
 
     void clipPlayingAtShutdownPlaysOn()
     {
-        auto load = api<int32_t (*)(int32_t, int32_t *)>("PLOV_LoadSound");
-        auto status = api<int32_t (*)(int32_t)>("PLOV_GetSoundStatus");
-        QCOMPARE(api<int32_t (*)(uintptr_t)>("PLOV_InitSound")(0), 0);
+        QCOMPARE(init(), 0);
         int32_t first = 0, second = 0;
         QCOMPARE(load(106, &first), 0);
-        api<void (*)(int32_t *)>("PLOV_UnloadSound")(&first);
+        unload(&first);
         QCOMPARE(load(106, &second), 0);
         QVERIFY(second != first); // a new clip never takes an old handle
-        api<void (*)(int32_t)>("PLOV_PlaySound")(second);
+        play(second);
         // The board closes right after the closing theme starts: it plays on,
         // but nothing new loads until the next initialisation.
-        api<void (*)()>("PLOV_Shutdown")();
+        shutdown();
         QCOMPARE(status(second), 1);
         int32_t third = 0;
         QVERIFY(load(101, &third) < 0);
-        QCOMPARE(api<int32_t (*)(uintptr_t)>("PLOV_InitSound")(0), 0);
+        QCOMPARE(init(), 0);
         QCOMPARE(load(101, &third), 0);
-        api<void (*)(int32_t, int32_t)>("PLOV_SeekSound")(second, 60000);
+        seek(second, 60000);
         QVERIFY(status(second) != 1);
     }
 
     void nothingLoadsAfterShutdown()
     {
-        QCOMPARE(api<int32_t (*)(uintptr_t)>("PLOV_InitSound")(0), 0);
-        api<void (*)()>("PLOV_Shutdown")();
+        QCOMPARE(init(), 0);
+        shutdown();
         int32_t handle = 0;
-        QVERIFY(api<int32_t (*)(int32_t, int32_t *)>("PLOV_LoadSound")(101, &handle) < 0);
-        api<void (*)()>("PLOV_Shutdown")(); // twice is harmless
+        QVERIFY(load(101, &handle) < 0);
+        shutdown(); // twice is harmless
     }
 };
 
