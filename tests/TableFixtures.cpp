@@ -1,6 +1,5 @@
 #include "TableFixtures.h"
 
-#include <minizip/zip.h>
 
 #include <QFile>
 
@@ -37,23 +36,6 @@ QByteArray csvText(const Rows &rows, char separator, const QByteArray &lineEnd)
         out += cells.join(separator) + lineEnd;
     }
     return out;
-}
-
-void writeZip(const QString &path, const QList<QPair<QString, QByteArray>> &entries)
-{
-    zipFile zip = zipOpen64(QFile::encodeName(path).constData(), APPEND_STATUS_CREATE);
-    if (!zip)
-        qFatal("cannot create %s", qPrintable(path));
-    for (const auto &[name, bytes] : entries) {
-        zip_fileinfo info{};
-        if (zipOpenNewFileInZip64(zip, name.toUtf8().constData(), &info, nullptr, 0, nullptr, 0, nullptr, Z_DEFLATED,
-                                  Z_DEFAULT_COMPRESSION, 0) != ZIP_OK ||
-            zipWriteInFileInZip(zip, bytes.constData(), unsigned(bytes.size())) != ZIP_OK ||
-            zipCloseFileInZip(zip) != ZIP_OK)
-            qFatal("cannot write %s into %s", qPrintable(name), qPrintable(path));
-    }
-    if (zipClose(zip, nullptr) != ZIP_OK)
-        qFatal("cannot close %s", qPrintable(path));
 }
 
 bool equalSets(const QuestionSet &a, const QuestionSet &b, QString *where)

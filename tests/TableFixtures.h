@@ -1,5 +1,4 @@
-// Spreadsheet files made for a test: CSV text and zips put together entry
-// by entry.
+// Spreadsheet tables made for a test, and CSV text of them.
 #pragma once
 
 #include "questions/QuestionSet.h"
@@ -22,9 +21,6 @@ Rows setRows(int round1, int round2, bool final = true);
 // The rows as text with the separator, quoting as spreadsheets do, lines
 // ending in line end.
 QByteArray csvText(const Rows &rows, char separator = ',', const QByteArray &lineEnd = "\n");
-
-// A zip of the given files, compressed.
-void writeZip(const QString &path, const QList<QPair<QString, QByteArray>> &entries);
 
 // Whether two sets hold the same description, timer, counts, texts and
 // pictures; where not, where.
