@@ -12,7 +12,6 @@
 
 #include "help/HelpTexts.h"
 #include "platform/clsShellFolders.h"
-#include "select/SelectLayout.h"
 #include "shell/PictureLibrary.h"
 #include "ui/controls/CaptionControl.h"
 #include "ui/controls/ShadowLabel.h"
@@ -100,17 +99,6 @@ private slots:
         QVERIFY(home_->cmdEditor->isVisible() && home_->cmdHowToPlay->isVisible() && home_->cmdImport->isVisible());
     }
 
-    void specialFoldersEndInASeparator()
-    {
-        SpecialFolders::overridePath(SpecialFolders::kDesktop, QStringLiteral("/home/host/Desktop"));
-        QCOMPARE(clsShellFolders().GetSpecialFolderLocation(0, 0), QStringLiteral("/home/host/Desktop/"));
-        SpecialFolders::overridePath(SpecialFolders::kDesktop, QStringLiteral("/"));
-        QCOMPARE(clsShellFolders().GetSpecialFolderLocation(0, 0), QStringLiteral("/"));
-        SpecialFolders::overridePath(SpecialFolders::kDesktop, QString());
-        QCOMPARE(clsShellFolders().GetSpecialFolderLocation(0, 38), QString()); // a number the game never asks
-        QVERIFY(clsShellFolders().GetSpecialFolderLocation(0, 0).endsWith(QLatin1Char('/')));
-    }
-
     void vanishedFilesLeaveTheList()
     {
         program_->write(QStringLiteral("a.QZ2"), playableSet("A"));
@@ -168,11 +156,6 @@ private slots:
         QCOMPARE(state_.Scores[9], 0);
         QCOMPARE(board()->game().state().headerCaption[0], QStringLiteral("Rivers"));
         QCOMPARE(labels("lblTeam").size(), qMax(1, teams));
-        QCOMPARE(labels("lblTeam")[0]->isVisible(), teams > 0);
-        for (int i = 0; i < labels("lblTeam").size(); ++i) {
-            QCOMPARE(labels("lblScore")[i]->isVisible(), teams > 0);
-            QVERIFY(!labels("lblTeam2")[i]->isVisible());
-        }
         QVERIFY(boxes_->shown.isEmpty()); // no sound warning outside the game's own executable
     }
 
@@ -213,21 +196,6 @@ private slots:
         QVERIFY(home_->isVisible()); // the home screen stays as it was
         home_->cmdStart->click();
         QCOMPARE(home_->console()->board(), board()); // a rehearsal follows the game
-    }
-
-    void secondGameAfterTenTeamsKeepsOnlyItsLabels()
-    {
-        program_->write(QStringLiteral("a.QZ2"), playableSet("A"));
-        openHome();
-        home_->cmbScore->setCurrentIndex(10);
-        home_->cmdStart->click();
-        QCOMPARE(labels("lblTeam").size(), 10);
-        quitGame();
-        QVERIFY(!board());
-        home_->cmbScore->setCurrentIndex(2);
-        home_->cmdStart->click();
-        QCOMPARE(labels("lblTeam").size(), 2);
-        QCOMPARE(labels("lblScore2").size(), 2);
     }
 
     void selectionAndTeamCountSurviveAGameAndTheHelp()
@@ -324,10 +292,6 @@ private slots:
         QCOMPARE(home_->cmdStart->geometry(), QRect(0, 0, qRound(2250 * 610 / 7332.0), 55));
         QVERIFY(home_->cmdHowToPlay->geometry().right() < 610);
         QVERIFY(home_->cmdImport->geometry().top() > home_->cmdExport->geometry().bottom());
-        // A longer caption moves the team count to the right by as much.
-        const SelectLayout shortLabel = LayOutSelectScreen(QSizeF(640, 480), 96, 24, 100, QSizeF(120, 24));
-        const SelectLayout longLabel = LayOutSelectScreen(QSizeF(640, 480), 96, 24, 140, QSizeF(120, 24));
-        QCOMPARE(longLabel.scoreCombo.left() - shortLabel.scoreCombo.left(), 40.0);
     }
 
     void exportCopiesTheSelectedSetWhole()

@@ -328,39 +328,6 @@ private slots:
         QCOMPARE(fake.calls().last(), QStringLiteral("LoadSound 101 failed"));
     }
 
-    void windowIconComesAfterTheFirstPaint()
-    {
-        // A theme of our own holding the game's icon.
-        TestFolder themes;
-        themes.write(QStringLiteral("classroom/index.theme"), "[Icon Theme]\nName=classroom\nDirectories=32x32/apps\n\n"
-                                                              "[32x32/apps]\nSize=32\nType=Fixed\n");
-        QImage face(32, 32, QImage::Format_RGB32);
-        face.fill(Qt::darkBlue);
-        QVERIFY(QDir().mkpath(themes.file(QStringLiteral("classroom/32x32/apps"))));
-        QVERIFY(face.save(themes.file(QStringLiteral("classroom/32x32/apps/quizzarr.png"))));
-        const QStringList searchPaths = QIcon::themeSearchPaths();
-        const QString theme = QIcon::themeName();
-        QIcon::setThemeSearchPaths({themes.path()});
-        QIcon::setThemeName(QStringLiteral("classroom"));
-
-        SetWindowIconAfterFirstPaint(QStringLiteral("quizzarr"));
-        QWidget window;
-        window.resize(100, 100);
-        QCoreApplication::processEvents();
-        QVERIFY(QApplication::windowIcon().isNull()); // nothing painted yet
-        window.show();
-        QCoreApplication::processEvents();
-        QVERIFY(window.windowHandle()->isExposed());
-        window.repaint();
-        QVERIFY(QApplication::windowIcon().isNull()); // not while painting
-        QCoreApplication::processEvents();
-        QVERIFY(!QApplication::windowIcon().isNull());
-        QCOMPARE(window.windowIcon().pixmap(32).toImage().pixelColor(16, 16), QColor(Qt::darkBlue));
-        QApplication::setWindowIcon(QIcon());
-        QIcon::setThemeName(theme);
-        QIcon::setThemeSearchPaths(searchPaths);
-    }
-
     void terminationSignalsArriveOnTheEventLoop()
     {
         TerminationSignals ending;
