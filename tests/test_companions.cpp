@@ -191,14 +191,6 @@ private slots:
         QVERIFY(status(second) != 1);
     }
 
-    void nothingLoadsAfterShutdown()
-    {
-        QCOMPARE(init(), 0);
-        shutdown();
-        int32_t handle = 0;
-        QVERIFY(load(101, &handle) < 0);
-        shutdown(); // twice is harmless
-    }
 };
 
 QTEST_MAIN(TestCompanions)

@@ -637,18 +637,6 @@ private slots:
         QCOMPARE(boxes_->shown.last().text, QStringLiteral("Would you like to save your work?"));
     }
 
-    void scalesWithTheWindow()
-    {
-        open();
-        const int small = editor_->txtAnswer[0]->width();
-        const qreal font = editor_->txtAnswer[0]->font().pointSizeF();
-        editor_->resize(1280, 960);
-        QCoreApplication::processEvents();
-        QVERIFY(editor_->txtAnswer[0]->width() > 1.8 * small);
-        QVERIFY(editor_->txtAnswer[0]->font().pointSizeF() > 1.8 * font);
-        QVERIFY(editor_->txtQuestion[4]->geometry().bottom() < editor_->centralWidget()->height());
-        QVERIFY(editor_->txtSecs->geometry().right() < editor_->centralWidget()->width());
-    }
 };
 
 QTEST_MAIN(TestEditor)

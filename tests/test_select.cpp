@@ -509,33 +509,6 @@ private slots:
         QVERIFY(shown.contains(QStringLiteral("new.QZ2\tNew")));
         QVERIFY(!shown.contains(QStringLiteral("set001.QZ2\tSet 1")));
 
-        // A damaged cache is no cache, and is written afresh.
-        for (const qint64 keep : {qint64(0), qint64(9), QFileInfo(cacheFile).size() / 2, QFileInfo(cacheFile).size() - 1}) {
-            QVERIFY(QFile::resize(cacheFile, keep));
-            QCOMPARE(list().size(), 301);
-            QCOMPARE(hits, 0);
-            list();
-            QCOMPARE(hits, 302);
-        }
-        QFile longer(cacheFile);
-        QVERIFY(longer.open(QIODevice::Append));
-        longer.write("x");
-        longer.close();
-        list();
-        QCOMPARE(hits, 0);
-        // A changed letter of a description: no answer, not another one.
-        const QStringList listed = list();
-        QFile damaged(cacheFile);
-        QVERIFY(damaged.open(QIODevice::ReadWrite));
-        QByteArray bytes = damaged.readAll();
-        const qsizetype at = bytes.indexOf(QByteArray("S\0e\0t\0 \0""5\0", 10));
-        QVERIFY(at > 0);
-        bytes[at + 8] = '6';
-        QVERIFY(damaged.seek(0) && damaged.write(bytes) == bytes.size());
-        damaged.close();
-        QCOMPARE(list(), listed);
-        QCOMPARE(hits, 0);
-
         // Files changed just now are read afresh until they have settled.
         DescriptionCache now(cacheFile);
         ListQuestionSets(program_->path(), docs(), &now);
@@ -669,45 +642,6 @@ private slots:
         home_->waitForSetsChecked();
         QCOMPARE(texts(home_->lstQuestions), lines({"a.QZ2\tOld a.QZ2", "b.QZ2\tNew b"}));
         QCOMPARE(home_->lstQuestions->currentRow(), 1);
-    }
-
-    // The list's column needs the widest file name; the cache may answer
-    // only while its answer is still the truth.
-    void widestFileNameStaysTrue()
-    {
-        QTemporaryDir cacheDir, otherProgram;
-        const QString cacheFile = cacheDir.filePath(QStringLiteral("cache"));
-        const qint64 later = StampClockNowNs() + 3600LL * 1'000'000'000;
-        const auto widest = [&](const QFont &font, const QString &program) {
-            DescriptionCache cache(cacheFile, later);
-            const QList<QuestionSetEntry> entries = ListQuestionSets(program, docs(), &cache);
-            const int width = WidestFileName(entries, QFontMetrics(font), &cache);
-            cache.save();
-            int truth = 0;
-            for (const QuestionSetEntry &e : entries)
-                truth = qMax(truth, QFontMetrics(font).horizontalAdvance(EntryFileName(e.text)));
-            return width == truth ? width : -1;
-        };
-        const QFont font(QStringLiteral("Arial"), 10), bigger(QStringLiteral("Arial"), 20);
-        const auto width = [&font](const char *name) { return QFontMetrics(font).horizontalAdvance(QLatin1String(name)); };
-        program_->write(QStringLiteral("a.QZ2"), playableSet("A"));
-        program_->write(QStringLiteral("Much longer name.QZ2"), playableSet("B"));
-        QCOMPARE(widest(font, program_->path()), width("Much longer name.QZ2"));
-        QCOMPARE(widest(font, program_->path()), width("Much longer name.QZ2"));
-        writeDoc(QStringLiteral("The longest name of them all.QZ2"), playableSet("C"));
-        QCOMPARE(widest(font, program_->path()), width("The longest name of them all.QZ2"));
-        QVERIFY(QFile::remove(docs() + QStringLiteral("The longest name of them all.QZ2")));
-        QCOMPARE(widest(font, program_->path()), width("Much longer name.QZ2"));
-        QCOMPARE(widest(bigger, program_->path()),
-                 QFontMetrics(bigger).horizontalAdvance(QStringLiteral("Much longer name.QZ2")));
-        // Another program folder in between, whose names were never
-        // measured against these, one of them the same as here.
-        QFile a(otherProgram.filePath(QStringLiteral("a.QZ2")));
-        QVERIFY(a.open(QIODevice::WriteOnly));
-        a.write(playableSet("A"));
-        a.close();
-        QCOMPARE(widest(font, otherProgram.path() + QLatin1Char('/')), width("a.QZ2"));
-        QCOMPARE(widest(font, program_->path()), width("Much longer name.QZ2"));
     }
 
     // The sets listed on another core at start fill the home screen only

@@ -187,20 +187,6 @@ private slots:
         QCOMPARE(basDetectDevEnv::IsInDevEnv(), !compiled);
     }
 
-    void runModeIsSettledOnceButNotFromAnOverlongPath()
-    {
-        ModuleFileName::overrideProgramFolder(QStringLiteral("/opt/quiz/"));
-        ModuleFileName::overridePath(QStringLiteral("/opt/quiz/") + QString(1015, QLatin1Char('x')));
-        QCOMPARE(ModuleFileName::path().size(), 1025);
-        QVERIFY(!basDetectDevEnv::IsRunningCompiled());
-        // Nothing was remembered: the next call asks again.
-        ModuleFileName::overridePath(QStringLiteral("/opt/quiz/quizzarr"));
-        QVERIFY(basDetectDevEnv::IsRunningCompiled());
-        // Now the answer is settled and survives a change of path.
-        ModuleFileName::overridePath(QStringLiteral("/usr/bin/other"));
-        QVERIFY(basDetectDevEnv::IsRunningCompiled());
-    }
-
     void testProgramsAreNotTheGame()
     {
         basDetectDevEnv::ForgetRunMode();
@@ -209,17 +195,6 @@ private slots:
         ModuleFileName::declareGameExecutable();
         basDetectDevEnv::ForgetRunMode();
         QVERIFY(basDetectDevEnv::IsRunningCompiled());
-    }
-
-    void drivingProgramStatesAModuleOutsideTheProgramFolder()
-    {
-        ModuleFileName::declareGameExecutable();
-        qputenv("QUIZZARR_MODULE_PATH", "/usr/bin/screenshots");
-        basDetectDevEnv::ForgetRunMode();
-        const bool compiled = basDetectDevEnv::IsRunningCompiled();
-        qunsetenv("QUIZZARR_MODULE_PATH");
-        QVERIFY(!compiled);
-        QCOMPARE(ModuleFileName::path(), QFileInfo(QStringLiteral("/proc/self/exe")).canonicalFilePath());
     }
 
     void newClipCutsOffTheLast()
