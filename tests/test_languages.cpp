@@ -21,55 +21,31 @@
 #include <QProcess>
 #include <QStyleOptionButton>
 #include <QToolButton>
-#include <QXmlStreamReader>
 #include <QtTest>
 
 namespace {
 
-struct Message {
-    QString translation;
-    bool finished = false;
-};
-// A .ts file's messages by context and English text.
-using Messages = QMap<std::pair<QString, QString>, Message>;
-
-// An element's text, with lupdate's <byte value="xd"/> read as the byte.
-QString elementText(QXmlStreamReader &x)
-{
-    QString text;
-    while (!x.atEnd()) {
-        const QXmlStreamReader::TokenType t = x.readNext();
-        if (t == QXmlStreamReader::Characters)
-            text += x.text();
-        else if (t == QXmlStreamReader::StartElement && x.name() == QLatin1String("byte"))
-            text += QChar(x.attributes().value(QLatin1String("value")).mid(1).toUShort(nullptr, 16));
-        else if (t == QXmlStreamReader::EndElement && x.name() != QLatin1String("byte"))
-            break;
-    }
-    return text;
-}
-
+// A .ts file's messages, by context and English text: the translation,
+// and whether it is finished. lupdate writes a line's CR as a byte element.
+using Messages = QMap<std::pair<QString, QString>, std::pair<QString, bool>>;
 Messages readTs(const QString &path)
 {
-    QFile f(path);
-    if (!f.open(QIODevice::ReadOnly))
-        return {};
+    const auto text = [](QString t) {
+        return t.replace(QStringLiteral("&lt;"), QStringLiteral("<")).replace(QStringLiteral("&gt;"), QStringLiteral(">"))
+            .replace(QStringLiteral("&quot;"), QStringLiteral("\"")).replace(QStringLiteral("&apos;"), QStringLiteral("'"))
+            .replace(QStringLiteral("&amp;"), QStringLiteral("&"));
+    };
+    const QString ts = QString::fromUtf8(readFile(path)).replace(QStringLiteral("<byte value=\"xd\"/>"), QStringLiteral("\r"));
+    static const QRegularExpression context(QStringLiteral("<context>\\s*<name>(.*?)</name>(.*?)</context>"),
+                                            QRegularExpression::DotMatchesEverythingOption);
+    static const QRegularExpression message(QStringLiteral("<source>(.*?)</source>.*?<translation( type=\"\\w+\")?>(.*?)</translation>"),
+                                            QRegularExpression::DotMatchesEverythingOption);
     Messages messages;
-    QXmlStreamReader x(&f);
-    QString context, source;
-    while (!x.atEnd()) {
-        if (x.readNext() != QXmlStreamReader::StartElement)
-            continue;
-        if (x.name() == QLatin1String("name"))
-            context = x.readElementText();
-        else if (x.name() == QLatin1String("source"))
-            source = elementText(x);
-        else if (x.name() == QLatin1String("translation")) {
-            const bool finished = x.attributes().value(QLatin1String("type")).isEmpty();
-            messages[{context, source}] = {elementText(x), finished};
-        }
+    for (const QRegularExpressionMatch &c : context.globalMatch(ts)) {
+        for (const QRegularExpressionMatch &m : message.globalMatch(c.captured(2)))
+            messages[{c.captured(1), text(m.captured(1))}] = {text(m.captured(3)), m.captured(2).isEmpty()};
     }
-    return x.hasError() ? Messages{} : messages;
+    return messages;
 }
 
 QStringList placeholders(const QString &text)
@@ -194,9 +170,9 @@ private slots:
             const QString &source = it.key().second;
             if (!inCode.contains(it.key()))
                 extra << source;
-            else if (!it->finished || it->translation.trimmed().isEmpty())
+            else if (!it->second || it->first.trimmed().isEmpty())
                 unfinished << source;
-            else if (placeholders(source) != placeholders(it->translation))
+            else if (placeholders(source) != placeholders(it->first))
                 mismatched << source;
         }
         QVERIFY2(missing.isEmpty(), qPrintable(QStringLiteral("not in the .ts: ") + missing.join(QStringLiteral(" | "))));
