@@ -49,6 +49,15 @@ class TestShell : public QObject {
     GameState state_;
     Libraries libraries_;
 
+    // The game's own sound, started as the board starts it, on the fake
+    // clock that plays its clips.
+    void startSound(FakeSoundControl &fake, FakeClock &clock)
+    {
+        clock.onAdvance = [&](int ms) { fake.advance(ms); };
+        ForceGameMode(true);
+        libraries_.hSoundLib->InitSound(0);
+    }
+
 private slots:
     void cleanup()
     {
@@ -201,8 +210,7 @@ private slots:
     {
         FakeSoundControl fake(libraries_);
         FakeClock clock;
-        ForceGameMode(true);
-        libraries_.hSoundLib->InitSound(0);
+        startSound(fake, clock);
 
         libraries_.PlayGameSound(101, false);
         QVERIFY(libraries_.hCurrentSound != 0);
@@ -218,9 +226,7 @@ private slots:
     {
         FakeSoundControl fake(libraries_);
         FakeClock clock;
-        clock.onAdvance = [&](int ms) { fake.advance(ms); };
-        ForceGameMode(true);
-        libraries_.hSoundLib->InitSound(0);
+        startSound(fake, clock);
         fake.setClipLength(102, 3000);
 
         bool timerRan = false;
@@ -244,9 +250,7 @@ private slots:
     {
         FakeSoundControl fake(libraries_);
         FakeClock clock;
-        clock.onAdvance = [&](int ms) { fake.advance(ms); };
-        ForceGameMode(true);
-        libraries_.hSoundLib->InitSound(0);
+        startSound(fake, clock);
         fake.setClipLength(105, 30000);
         fake.setClipLength(101, 5000);
         QTimer::singleShot(0, [this] { libraries_.PlayGameSound(101, false); });
@@ -278,8 +282,7 @@ private slots:
     {
         FakeSoundControl fake(libraries_);
         FakeClock clock;
-        ForceGameMode(true);
-        libraries_.hSoundLib->InitSound(0);
+        startSound(fake, clock);
         libraries_.PlayGameSound(103, false);
         fake.setLoadFails(108, true);
         libraries_.PlayGameSound(108, true);
@@ -291,8 +294,8 @@ private slots:
     void shutdownForgetsTheCurrentClip()
     {
         FakeSoundControl fake(libraries_);
-        ForceGameMode(true);
-        libraries_.hSoundLib->InitSound(0);
+        FakeClock clock;
+        startSound(fake, clock);
         libraries_.PlayGameSound(106, false);
         QVERIFY(libraries_.hCurrentSound != 0);
         libraries_.ShutdownSound();
