@@ -68,62 +68,20 @@ private slots:
         QTest::addColumn<QString>("section");
         QTest::addColumn<QString>("key");
         QTest::addColumn<QString>("expected");
-        const QByteArray set = "[Round1]\r\nDescription=  Rivers and lakes \t\r\nTimer=20\r\n"
-                               "Category0=A=B=C\r\nCategory1=\r\nCategory2=\"Quoted\"\r\n"
-                               "Category3='single'\r\nCategory4=\"half'\r\nCategory5=\"\"twice\"\"\r\n"
-                               "\r\n[Round1Category0]\r\nAnswer0=first\r\nAnswer0=second\r\n"
-                               "  Question0  =  spaced key  \r\n\r\n[Final]\r\nCategory=Seas";
-        QTest::newRow("letter case of section and key") << set << "ROUND1" << "timer" << "20";
-        QTest::newRow("blanks around the value go") << set << "Round1" << "Description" << "Rivers and lakes";
-        QTest::newRow("split at the first =") << set << "Round1" << "Category0" << "A=B=C";
-        QTest::newRow("empty value stays empty") << set << "Round1" << "Category1" << "";
-        QTest::newRow("double quotes go") << set << "Round1" << "Category2" << "Quoted";
-        QTest::newRow("single quotes go") << set << "Round1" << "Category3" << "single";
-        QTest::newRow("unmatched quotes stay") << set << "Round1" << "Category4" << "\"half'";
-        QTest::newRow("only one pair goes") << set << "Round1" << "Category5" << "\"twice\"";
-        QTest::newRow("first of two keys") << set << "Round1Category0" << "Answer0" << "first";
-        QTest::newRow("blanks around the key") << set << "Round1Category0" << "Question0" << "spaced key";
-        QTest::newRow("last line without line end") << set << "Final" << "Category" << "Seas";
-        QTest::newRow("key of another section") << set << "Round1" << "Answer0" << "DEFAULT";
-        QTest::newRow("missing section") << set << "Round2" << "Category0" << "DEFAULT";
-        QTest::newRow("line feeds only") << QByteArray("[A]\nk=v\n[B]\nk=w\n") << "b" << "K" << "w";
-        QTest::newRow("section name with blanks") << QByteArray("[ A ]\r\nk=v\r\n") << "A" << "k" << "v";
-        QTest::newRow("lone quote stays") << QByteArray("[A]\r\nk=\"\r\n") << "A" << "k" << "\"";
-        QTest::newRow("8-bit code page") << QByteArray("[A]\r\nk=caf\xe9 \x80 5\r\n") << "A" << "k" << "café € 5";
-        QTest::newRow("UTF-8 file") << QByteArray("[A]\r\nk=caf\xc3\xa9 \xe2\x82\xac 5\r\n") << "A" << "k"
-                                    << "café € 5";
-        QTest::newRow("byte-order mark") << QByteArray("\xef\xbb\xbf[A]\r\nk=v\xc3\xa9\r\n") << "A" << "k" << "vé";
-        QTest::newRow("invalid UTF-8 after the value: code page")
-            << QByteArray("[A]\r\nk=\xc3\xa9\r\n[B]\r\nx=\xe9\r\n") << "A" << "k" << "Ã©";
-        // One verdict for the whole file, names included: here the 8-bit code
-        // page, though the names alone would pass for UTF-8.
-        QTest::newRow("names in the 8-bit code page")
-            << QByteArray("[\xc3\xa9]\r\n\xe2\x84\xaa=kelvin\r\nk=plain\r\n\xe9=e\r\n") << "\u00c3\u00a9" << "K" << "plain";
-        QTest::newRow("empty file") << QByteArray() << "A" << "k" << "DEFAULT";
+        // Small files in tests/data/ini, each beside what reads of it give,
+        // a line each: section, key and value, parted by tabs ("DEFAULT":
+        // none); their names say the rule.
+        const QDir ini(QStringLiteral(QUIZZARR_TEST_DATA "/ini"));
+        for (const QString &name : ini.entryList({QStringLiteral("*.ini")})) {
+            const QByteArray content = readFile(ini.filePath(name));
+            for (const QString &line : QString::fromUtf8(readFile(ini.filePath(name + QStringLiteral(".reads")))).split(
+                     QLatin1Char('\n'), Qt::SkipEmptyParts)) {
+                const QStringList read = line.split(QLatin1Char('\t'));
+                QTest::addRow("%s: %s %s", qPrintable(name), qPrintable(read[0]), qPrintable(read[1]))
+                    << content << read[0] << read[1] << read.value(2);
+            }
+        }
         QTest::newRow("NUL bytes") << QByteArray("[A]\r\nk=a\0b\r\n", 11) << "A" << "k" << QString::fromUtf8("a\0b", 3);
-        // Byte-order marks past the file's start are text.
-        const QByteArray mark(Utf8::kByteOrderMark);
-        const QString feff(QChar(0xFEFF));
-
-        QTest::newRow("mark at the file start")
-            << mark + "[A]\r\nk=v\r\n" << "A" << "k" << "v";
-        QTest::newRow("value starting with a mark")
-            << mark + "[A]\r\nk=" + mark + "v\r\n" << "A" << "k" << feff + QStringLiteral("v");
-        QTest::newRow("value that is a mark alone")
-            << mark + "[A]\r\nk=" + mark + "\r\n" << "A" << "k" << feff;
-        QTest::newRow("mark before a key is part of the key")
-            << mark + "[A]\r\n" + mark + "k=marked\r\nk=plain\r\n" << "A" << "k" << "plain";
-        QTest::newRow("key asked with its mark")
-            << mark + "[A]\r\n" + mark + "k=marked\r\nk=plain\r\n" << "A" << feff + QStringLiteral("k")
-            << "marked";
-        QTest::newRow("mark inside a section name")
-            << mark + "[A]\r\nk=a\r\n[" + mark + "B]\r\nk=b\r\n" << "B" << "k" << "DEFAULT";
-        // Each byte that is no UTF-8 shows as a replacement character, at
-        // the value's end as anywhere else.
-        QTest::newRow("bytes that are no UTF-8 in a marked file")
-            << mark + "[A]\r\nk=\xe2\x82 \xe2\x82\r\n" << "A" << "k" << QStringLiteral("\ufffd\ufffd \ufffd\ufffd");
-        QTest::newRow("mark in a file without one at its start")
-            << "[A]\r\nk=" + mark + "v \xc3\xa9\r\n" << "A" << "k" << feff + QStringLiteral("v \u00e9");
         // Lines of any length.
         const QByteArray blanks(70000, ' ');
         const QByteArray tabs(70000, '\t');
