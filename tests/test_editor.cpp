@@ -5,26 +5,19 @@
 // and every fault reaches the host in a message box.
 
 #include "EditorFixture.h"
-#include "ScriptedFileDialog.h"
-#include "ScriptedMsgBox.h"
 
 #include "platform/ModuleFileName.h"
 #include "platform/clsOpenSaveDlgFlags.h"
-#include "platform/SpecialFolders.h"
-#include "questions/QuestionSet.h"
 #include "questions/TableFiles.h"
 #include "questions/clsOpenSaveDlg.h"
 #include "ui/controls/CaptionControl.h"
-#include "ui/editor/frmEditor.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QToolButton>
 #include <QImage>
-#include <QDir>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QTemporaryDir>
 #include <QtTest>
 
 #include <dlfcn.h>

@@ -13,15 +13,12 @@
 #include "ui/shell/Translations.h"
 
 #include <QCheckBox>
-#include <QComboBox>
 #include <QLabel>
-#include <QListWidget>
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QProcess>
 #include <QStyleOptionButton>
 #include <QToolButton>
-#include <QtTest>
 
 namespace {
 

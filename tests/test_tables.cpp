@@ -4,7 +4,6 @@
 
 #include "TableFixtures.h"
 #include "TestSets.h"
-#include "questions/QuestionSet.h"
 #include "questions/TableFiles.h"
 #include "questions/TableFormats.h"
 
