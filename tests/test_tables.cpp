@@ -101,38 +101,6 @@ private slots:
         QCOMPARE(s.Categories[0][2].Title, QString());
     }
 
-    void headerColumnsComeInAnyOrderAndLetterCase_data()
-    {
-        QTest::addColumn<QStringList>("header");
-        QTest::addColumn<QList<int>>("order"); // where Round, Category, Clue, Response stand
-        QTest::newRow("as written") << QStringList{QStringLiteral("Round"), QStringLiteral("Category"),
-                                                   QStringLiteral("Clue"), QStringLiteral("Response")}
-                                    << QList<int>{0, 1, 2, 3};
-        QTest::newRow("shuffled, any case, padded, with others")
-            << QStringList{QStringLiteral(" RESPONSE "), QStringLiteral("value"), QStringLiteral("clue"),
-                           QStringLiteral("Notes"), QStringLiteral("rOuNd"), QStringLiteral("Category")}
-            << QList<int>{4, 5, 2, 0};
-    }
-
-    void headerColumnsComeInAnyOrderAndLetterCase()
-    {
-        QFETCH(QStringList, header);
-        QFETCH(QList<int>, order);
-        Rows rows;
-        for (const QStringList &plain : setRows(1, 0)) {
-            QStringList row(header.size(), QStringLiteral("x"));
-            for (int f = 0; f < 4; ++f)
-                row[order[f]] = plain[f];
-            rows << row;
-        }
-        rows[0] = header;
-        const TableImport result = QuestionSetFromTable(tableOf(rows), QString(), 20);
-        QVERIFY2(result.set, qPrintable(result.error));
-        QCOMPARE(result.set->Categories[0][0].Answer[4], QStringLiteral("r1c0 clue 4"));
-        QCOMPARE(result.set->Categories[0][0].Question[4], QStringLiteral("r1c0 response 4"));
-        QCOMPARE(result.set->Categories[2][0].Title, QStringLiteral("Final Cat"));
-    }
-
     // ------------------------------------------------------------ export
 
     void exportThenImportGivesTheSameSet_data()
