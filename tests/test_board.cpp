@@ -325,9 +325,7 @@ private slots:
         const QRect tile(board->vseQuestion[0]->mapTo(board->vseTV->parentWidget(), QPoint(0, 0)),
                          board->vseQuestion[0]->size());
         const qreal tileFont = board->vseQuestion[0]->fontSize();
-
         board->ZoomTV({ZoomSource::Tile, 0}, state_.PicIdScreen);
-
         QCOMPARE(frames.size(), 5);
         const QSizeF W = board->boardSize();
         for (const Frame &f : frames)

@@ -277,7 +277,6 @@ private slots:
         QCOMPARE(kept.teams[2].describe(), QStringLiteral("key F5"));
         for (int team = 0; team < 10; ++team)
             QVERIFY(kept.teams[size_t(team)].sameAs(inputs.settings().teams[size_t(team)]));
-
         home->cmbScore->setCurrentIndex(3);
         home->lstQuestions->setCurrentRow(0);
         home->cmdStart->click();

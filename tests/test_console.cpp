@@ -67,12 +67,10 @@ private slots:
         QVERIFY(console()->isMaximized());
         QVERIFY(laptop->geometry().intersects(console()->geometry()));
         QVERIFY(!projector->geometry().intersects(console()->geometry()));
-
         on(console(), QStringLiteral("cmdSwitch"))->click();
         QCOMPARE(board()->screen(), laptop);
         QCOMPARE(board()->QWidget::geometry(), laptop->geometry());
         QCOMPARE(console()->screen(), projector);
-
         boxes_->answers = {MsgBoxResult::No};
         on(console(), QStringLiteral("cmdEndGame"))->click();
         QVERIFY(board());
@@ -94,7 +92,6 @@ private slots:
         int plain = 0;
         while (plain == state_.DailyDouble1 || plain == state_.DailyDouble2)
             plain += 6;
-
         // An ordinary tile: the console shows the response before the class sees it.
         button("cmdTile", plain)->click();
         QCOMPARE(game.state().stepCode, MakeStepCode(ClueStep::Clue, plain));
@@ -109,7 +106,6 @@ private slots:
         button("cmdPlus", 1)->click(); // the tile's value to team 2
         QCOMPARE(state_.Scores[1], Tiles::value(plain, 1));
         QCOMPARE(boardLabel("lblScore", 1), QStringLiteral("$ ") + FormatScore(Tiles::value(plain, 1)));
-
         // The daily double: a typed wager, lost.
         button("cmdTile", dd)->click();
         QCOMPARE(game.state().stepCode, MakeStepCode(ClueStep::DailyDouble, dd));
@@ -121,7 +117,6 @@ private slots:
         button("cmdMinus", 0)->click();
         QCOMPARE(state_.Scores[0], -1234);
         QCOMPARE(on<QLabel>(console(), QStringLiteral("lblScore(0)"))->text(), QStringLiteral("$ -1,234"));
-
         // A header parades the titles; the round ends, then the game.
         button("cmdHeader", 1)->click();
         QVERIFY(!board()->screenVisible());

@@ -75,7 +75,6 @@ private slots:
         QCOMPARE(boxes_->shown[0].caption, QStringLiteral("Import Spreadsheet"));
         QVERIFY(dialogs_->requests.isEmpty());
         QCOMPARE(editor_->questionSet.Categories[0][0].Title, QStringLiteral("changed"));
-
         boxes_->answers = {MsgBoxResult::No};
         dialogs_->choose(table);
         editor_->mnuImportTable->trigger();

@@ -197,19 +197,16 @@ private slots:
         const FileError missing = WriteQuestionSet(s, dir_.filePath(QStringLiteral("no/such/folder/Set")));
         QCOMPARE(missing.number, ENOENT);
         QVERIFY(!missing.description.isEmpty());
-
         const QString old = write(QStringLiteral("Locked.QZ2"), "old contents\r\n");
         QVERIFY(QFile::setPermissions(old, QFileDevice::ReadOwner | QFileDevice::ReadGroup));
         const FileError locked = WriteQuestionSet(s, old);
         QCOMPARE(locked.number, EACCES);
         QCOMPARE(read(old), QByteArray("old contents\r\n"));
-
         QDir(dir_.path()).mkdir(QStringLiteral("readonly"));
         const QString folder = dir_.filePath(QStringLiteral("readonly"));
         QVERIFY(QFile::setPermissions(folder, QFileDevice::ReadOwner | QFileDevice::ExeOwner));
         QCOMPARE(WriteQuestionSet(s, folder + QStringLiteral("/Set")).number, EACCES);
         QVERIFY(QFile::setPermissions(folder, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner));
-
         // No temporary file is left behind by the failures.
         QCOMPARE(QDir(dir_.path()).entryList({QStringLiteral(".quizzarr-save-*")}, QDir::Hidden | QDir::Files),
                  QStringList());

@@ -86,7 +86,6 @@ private slots:
         QCOMPARE(board_->lblTeam.size(), 2);
         QCOMPARE(board_->vseCategory[1]->caption(), QStringLiteral("Lakes"));
         QCOMPARE(board_->vseQuestion[19]->caption(), QStringLiteral("$400"));
-
         // Team 1 takes column 0; a few layouts' SHIFT+digit score for team 2.
         for (int row = 0; row < 5; ++row) {
             playTile(row * 6);
@@ -107,7 +106,6 @@ private slots:
         QCOMPARE(settings_.Scores[1], 3 * last);
         QCOMPARE(board_->lblScore2[1]->caption(), QStringLiteral("$ ") + FormatScore(3 * last));
         QCOMPARE(settings_.Scores[0], column0);
-
         sendKey(board_, Qt::Key_N, kAllThree);
         QCOMPARE(settings_.Round, qint16(2));
         QCOMPARE(board_->vseQuestion[20]->caption(), QStringLiteral("$800"));

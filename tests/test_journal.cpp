@@ -63,7 +63,6 @@ private slots:
         QCOMPARE(r->round, qint16(1));
         QCOMPARE(r->teams, qint16(2));
         QCOMPARE(r->tileCaption[0], QStringLiteral("$100"));
-
         BoardGame &game = board()->game();
         press(game, 7);
         board()->run([](BoardGame &g) { g.addToScore(1, 700); });
@@ -74,7 +73,6 @@ private slots:
         QCOMPARE(r->names[0], QStringLiteral("Owls"));
         QVERIFY(r->history == (std::vector<std::pair<int, qint32>>{{1, 700}}));
         QCOMPARE(r->dailyDouble1, state_.DailyDouble1);
-
         // A written journal reads back as written, the phones' room with it.
         r->room = QStringLiteral("KQXR");
         r->port = 47110;
@@ -84,21 +82,9 @@ private slots:
         QCOMPARE(WriteJournal(*again), WriteJournal(*r));
         QCOMPARE(again->players.size(), 1);
         QCOMPARE(again->players[0].name, QStringLiteral("Ana \U0001f981"));
-
         sendKey(board(), Qt::Key_Q, kAllThreeKeys);
         QCoreApplication::processEvents();
         QVERIFY(!journal().exists()); // a normal end leaves nothing to resume
-    }
-
-    void standingsClosedEndTheJournalToo()
-    {
-        program_->write(QStringLiteral("game.QZ2"), "[Round1]\r\nDescription=nothing to play\r\n");
-        startGame(1);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QCoreApplication::processEvents();
-        QVERIFY(!board());
-        QCOMPARE(boxes_->shown.last().caption, QStringLiteral("Scores"));
-        QVERIFY(!journal().exists());
     }
 
     void crashedGameResumesExactlyWhereItStopped()
@@ -117,7 +103,6 @@ private slots:
         const BoardState before = game.state();
         const GameState settings = state_;
         crash();
-
         // The next start of the program.
         GameState next;
         FakeSoundControl sound(libraries_);
@@ -131,7 +116,6 @@ private slots:
         QCOMPARE(boxes_->shown[0].caption, QStringLiteral("PLOV(tm) Quizzarr!"));
         QVERIFY(board() && board()->isVisible());
         QVERIFY(!home_->isVisible());
-
         const BoardState &now = board()->game().state();
         QCOMPARE(next.Round, qint16(2));
         QVERIFY(now.headerTag == before.headerTag); // titles and tiles: the next test
@@ -178,7 +162,6 @@ private slots:
         const BoardState played = board()->game().state();
         QCoreApplication::processEvents();
         crash();
-
         GameState next;
         boxes_->answers = {MsgBoxResult::Yes};
         openHome(next);

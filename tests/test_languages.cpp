@@ -243,23 +243,19 @@ private slots:
         openHome();
         QCOMPARE(home_->size(), QSize(640, 480));
         QStringList over = cutOff(home_);
-
         frmEditor editor;
         editor.show();
         editor.resize(640, 480);
         QVERIFY(QTest::qWaitForWindowExposed(&editor));
         over << cutOff(&editor);
-
         home_->cmdHowToPlay->click();
         QVERIFY(home_->help());
         over << cutOff(home_->help());
         home_->help()->close();
-
         home_->openBuzzers();
         QVERIFY(home_->buzzersWindow());
         over << cutOff(home_->buzzersWindow());
         home_->buzzersWindow()->close();
-
         home_->chkBuzzIn->setChecked(true);
         startGame(10);
         QVERIFY(home_->board() && home_->console());

@@ -132,7 +132,6 @@ private slots:
         QVERIFY(::bind(fd, reinterpret_cast<sockaddr *>(&address), sizeof address) == 0);
         for (const char *special : {"pipe.png", "folder.png", "device.png", "socket.png", "gone.png"})
             shows[QLatin1String(special)] = false;
-
         // One clue a picture, and two names that would not travel.
         QuestionSet set = distinctSet();
         int slot = 0;
@@ -145,7 +144,6 @@ private slots:
         set.Categories[1][5].Picture[4] = QStringLiteral("/srv/elsewhere.png");
         const QString file = dir.filePath(QStringLiteral("kinds.QZ2"));
         QVERIFY(!WriteQuestionSet(set, file));
-
         QByteArray out;
         QCOMPARE(runQz2({QStringLiteral("check"), file}, &out), 0);
         for (auto it = shows.cbegin(); it != shows.cend(); ++it) {

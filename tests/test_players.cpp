@@ -230,7 +230,6 @@ private slots:
         QVERIFY(big.connected());
         big.sendRaw(QString(1100, QLatin1Char('x'))); // over 1 KB
         QVERIFY(big.closed());
-
         Phone flood(port_);
         QVERIFY(flood.connected());
         flood.join(roomCode(), 0, QStringLiteral("Fast"));
@@ -241,7 +240,6 @@ private slots:
         for (int i = 0; i < 20; ++i)
             flood.send(message("buzz"));
         QVERIFY(flood.closed()); // twice the rate within a second
-
         std::vector<std::unique_ptr<Phone>> many;
         for (int i = 0; i < 8; ++i) {
             many.push_back(std::make_unique<Phone>(port_));
@@ -252,7 +250,6 @@ private slots:
         QCOMPARE(ninth.got.size(), 0);
         many.clear();
         QTRY_COMPARE(server_->phoneConnections(), 0);
-
         // HTTP: only the page's files; a request too large or too slow closes.
         // The server shares this thread: every wait lets the event loop run.
         const auto request = [this](const QByteArray &bytes, bool slow = false) {
@@ -277,7 +274,6 @@ private slots:
         QVERIFY(request("GET /app.js HTTP/1.1\r\nHost: x\r\n\r\n").contains("Content-Type: text/javascript"));
         QCOMPARE(request("GET / HTTP/1.1\r\nX-Long: " + QByteArray(20'000, 'x')), QByteArray());
         QCOMPARE(request("GET / HT", true), QByteArray());
-
         // Two hundred players, and not one more.
         Phone joiner(port_);
         QVERIFY(joiner.connected());

@@ -183,26 +183,6 @@ private slots:
         QVERIFY(!bytes.contains("R2C1"));
     }
 
-    void countsLimitWhatIsWrittenAndReadBack()
-    {
-        QuestionSet s = distinctSet();
-        s.RoundCount = 1;
-        s.CategoryCount[0] = 4;
-        const QString path = dir_.filePath(QStringLiteral("four.QZ2"));
-        QVERIFY(!WriteQuestionSet(s, path));
-        const QByteArray bytes = read(path);
-        QVERIFY(bytes.contains("Category3=R0C3 title\r\n\r\n[Round1Category0]"));
-        QVERIFY(!bytes.contains("Category4"));
-        QVERIFY(!bytes.contains("[Round2]"));
-        QVERIFY(bytes.contains("[Round1Category3]"));
-        QVERIFY(!bytes.contains("[Round1Category4]"));
-        const QuestionSet back = LoadQuestionSet(path);
-        QCOMPARE(back.RoundCount, qint16(1));
-        QCOMPARE(back.CategoryCount[0], qint16(4));
-        QCOMPARE(GameReads::ColumnTitle(path, 1, 4), QString()); // the board's column 4 is empty
-        QVERIFY(!GameReads::RoundExists(path, 2));
-    }
-
     void appendsTheExtensionOnlyWhenMissing_data()
     {
         QTest::addColumn<QString>("given");
@@ -217,13 +197,6 @@ private slots:
         QFETCH(QString, given);
         QFETCH(QString, written);
         QCOMPARE(WithQz2Extension(given), written);
-    }
-
-    void keepsTheFolderWhenCuttingTheExtension()
-    {
-        QCOMPARE(FileBaseOf(QStringLiteral("/home/a.b/Quiz.QZ2")), QStringLiteral("/home/a.b/Quiz"));
-        QCOMPARE(FileBaseOf(QStringLiteral("/home/a.b/Quiz")), QStringLiteral("/home/a.b/Quiz"));
-        QCOMPARE(FileBaseOf(QStringLiteral("Old.QZA")), QStringLiteral("Old"));
     }
 
     void roundTripsEveryText_data()

@@ -58,7 +58,6 @@ private slots:
         sound_->setClipLength(107, 4000);
         start(setText({"Rivers", "", "", "", "", ""}, {"", "", "Lakes", "", "", ""}, "Seas"), 0);
         QVERIFY(clock_->elapsedMs() >= 4000); // round 1 only after the start sound
-
         QCOMPARE(settings_.Round, qint16(1));
         QCOMPARE(settings_.TilesDone, qint16(25));
         QCOMPARE(state().headerCaption[0], QStringLiteral("Rivers"));
@@ -67,7 +66,6 @@ private slots:
         QCOMPARE(view_->count(QStringLiteral("showTileRow")), 5);
         for (int row = 0; row < 5; ++row)
             playTile(row * 6);
-
         // No scoring: round 2 follows the last close at once.
         QCOMPARE(settings_.Round, qint16(2));
         QCOMPARE(state().headerCaption[2], QStringLiteral("Lakes"));
@@ -76,14 +74,12 @@ private slots:
         QCOMPARE(state().headerTag[0], QString()); // round 1's exhausted title is not kept into round 2
         for (int row = 0; row < 5; ++row)
             playTile(row * 6 + 2);
-
         QCOMPARE(settings_.Round, qint16(3));
         QCOMPARE(settings_.TilesDone, qint16(29));
         QCOMPARE(state().stepCode, QStringLiteral("FC|-1"));
         QCOMPARE(view_->requests.last(), QStringLiteral("ZoomTV tile 14 %1").arg(settings_.PicIdFinal));
         for (int step = 0; step < 4; ++step)
             pressScreen(); // the final's steps: openClueFollowsTheScreen
-
         QVERIFY(view_->unloaded);
         QVERIFY(boxes_->shown.isEmpty()); // no standings without scoring
         const QStringList sounds = played();
@@ -108,7 +104,6 @@ private slots:
         // The daily double scores 100, the others their values.
         const int expected = 100 + 200 + 300 + 400 + 500 + 100 - Tiles::value(settings_.DailyDouble1, 1);
         QCOMPARE(settings_.Scores[1], expected);
-
         pressTile(13); // any blank tile: no round 2 here, so the final
         QCOMPARE(settings_.Round, qint16(3));
         for (int i = 0; i < 4; ++i)
@@ -227,7 +222,6 @@ private slots:
         QCOMPARE(state().stepCode, QStringLiteral("FQ|-1"));
         QCOMPARE(state().CurrentValue, qint16(100));
         QCOMPARE(played().last(), QStringLiteral("104"));
-
         // During the music: presses find "NO".
         int pressesDuringMusic = 0;
         clock_->onAdvance = [&](int ms) {
@@ -349,7 +343,6 @@ private slots:
         QVERIFY(key('N', kAllThree));
         QCOMPARE(boxes_->shown.size(), 1);
         QCOMPARE(boxes_->shown[0].text, QStringLiteral("Team 2: $ 300  WINNER\r\nTeam 1: $ 0"));
-
         start(setText({"A", "", "", "", "", ""}, {}, "Z"), 2);
         sound_->reset();
         QVERIFY(!key('Q', 3)); // two of three: nothing

@@ -69,7 +69,6 @@ private slots:
         program_->write(QStringLiteral("k.QZ2"), "no sections at all");
         writeDoc(QStringLiteral("A.qz2"), playableSet("Documents A"));
         writeDoc(QStringLiteral("b.QZ2"), playableSet("Documents b"));
-
         openHome();
         const QStringList shown = texts(home_->lstQuestions);
         QCOMPARE(shown, QStringList({QStringLiteral("A.qz2\tDocuments A"), QStringLiteral("b.QZ2\tDocuments b"),
@@ -111,7 +110,6 @@ private slots:
         QCOMPARE(texts(home_->lstQuestions), QStringList({QStringLiteral("b.QZ2\tB")}));
         QVERIFY(home_->lstQuestions->selectedItems().isEmpty());
         QCOMPARE(state_.QuestionFile, program_->file(QStringLiteral("a.QZ2")));
-
         // The last one: the message, and the libraries go.
         program_->write(QStringLiteral("b.QZ2"), "[Round1]\r\nDescription=-NONE-\r\n");
         home_->lstQuestions->setCurrentRow(0);
@@ -146,7 +144,6 @@ private slots:
         state_.Round = 4;
         home_->cmbScore->setCurrentIndex(teams);
         home_->cmdStart->click();
-
         QVERIFY(board());
         QVERIFY(!home_->isVisible());
         QVERIFY(board()->isVisible());
@@ -212,7 +209,6 @@ private slots:
         QCOMPARE(home_->lstQuestions->currentRow(), 1);
         QVERIFY(home_->lstQuestions->item(1)->isSelected());
         QCOMPARE(home_->cmbScore->currentIndex(), 5);
-
         home_->cmdHowToPlay->click();
         QVERIFY(!home_->isVisible());
         QVERIFY(home_->help()->isVisible());
@@ -257,14 +253,12 @@ private slots:
         home_->editor()->close();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QVERIFY(home_->isVisible());
-
         boxes_->answers = {MsgBoxResult::No};
         home_->lstQuestions->setCurrentRow(0);
         home_->cmdEditor->click();
         QCOMPARE(static_cast<frmEditor *>(home_->editor())->FileToLoad, QString());
         home_->editor()->close();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-
         home_->lstQuestions->clearSelection();
         home_->cmdEditor->click();
         QCOMPARE(boxes_->shown.size(), 2); // nothing selected: no question
@@ -480,14 +474,12 @@ private slots:
         program_->write(QStringLiteral("none.QZ2"), "no sections");
         writeDoc(QStringLiteral("mine.QZ2"), playableSet("Mine"));
         QVERIFY(::mkfifo(QFile::encodeName(program_->file(QStringLiteral("pipe.QZ2"))).constData(), 0600) == 0);
-
         QStringList shown = list();
         QCOMPARE(hits, 0);
         QCOMPARE(shown.size(), 301); // the pipe is no set, and never waited on
         QCOMPARE(shown.first(), QStringLiteral("mine.QZ2\tMine"));
         QCOMPARE(list().size(), 301);
         QCOMPARE(hits, 302); // every file known, the one that is no set too
-
         // Same size, the very same time of change, other words: only the
         // status time, which no program can set back, tells.
         const QByteArray changed = QFile::encodeName(program_->file(QStringLiteral("set007.QZ2")));
@@ -498,7 +490,6 @@ private slots:
         QVERIFY(::utimensat(AT_FDCWD, changed.constData(), times, 0) == 0);
         QVERIFY(list().contains(QStringLiteral("set007.QZ2\tSet X")));
         QCOMPARE(hits, 301);
-
         // A gone file, a renamed one and a new one.
         QVERIFY(QFile::remove(program_->file(QStringLiteral("set001.QZ2"))));
         QVERIFY(QFile::rename(program_->file(QStringLiteral("set002.QZ2")), program_->file(QStringLiteral("two.QZ2"))));
@@ -508,7 +499,6 @@ private slots:
         QVERIFY(shown.contains(QStringLiteral("two.QZ2\tSet 2")));
         QVERIFY(shown.contains(QStringLiteral("new.QZ2\tNew")));
         QVERIFY(!shown.contains(QStringLiteral("set001.QZ2\tSet 1")));
-
         // Files changed just now are read afresh until they have settled.
         DescriptionCache now(cacheFile);
         ListQuestionSets(program_->path(), docs(), &now);
@@ -557,13 +547,11 @@ private slots:
         QCOMPARE(trusted(), read);
         QCOMPARE(unchecked.size(), 2);
         QVERIFY(StillAsListed(unchecked));
-
         program_->write(QStringLiteral("c.QZ2"), playableSet("Written in place"));
         QCOMPARE(trusted(), read); // the folder is as it was
         QVERIFY(!StillAsListed(unchecked));
         QVERIFY(listAfresh().contains(QStringLiteral("c.QZ2\tWritten in place")));
         QVERIFY(trusted() && trusted()->contains(QStringLiteral("c.QZ2\tWritten in place")));
-
         // A file added, removed or renamed changes its folder.
         writeDoc(QStringLiteral("new.QZ2"), playableSet("New"));
         QVERIFY(!trusted());
@@ -571,7 +559,6 @@ private slots:
         QVERIFY(trusted());
         QVERIFY(QFile::rename(program_->file(QStringLiteral("b.QZ2")), program_->file(QStringLiteral("d.QZ2"))));
         QVERIFY(!trusted());
-
         // A folder listed just after it changed is not trusted, nor one
         // short of a file that had not settled.
         {
@@ -627,7 +614,6 @@ private slots:
         QCoreApplication::processEvents(); // the check begins after the paint
         home_->waitForSetsChecked();
         QCOMPARE(texts(home_->lstQuestions), lines({"a.QZ2\tOld a.QZ2", "b.QZ2\tOld b.QZ2"}));
-
         SetListing before = listing();
         program_->write(QStringLiteral("b.QZ2"), playableSet("New b"));
         delete home_.data();
@@ -660,7 +646,6 @@ private slots:
         delete home_.data();
         home_ = new frmSelect(state_, libraries_, nullptr, [&] { return ahead(QStringLiteral("/elsewhere/"), docs()); });
         QCOMPARE(texts(home_->lstQuestions), QStringList{QStringLiteral("real.QZ2\tReal")});
-
         StartupPrefetch start;
         const SetListing listed = start.takeSetListing();
         QCOMPARE(listed.programFolder, program_->path());

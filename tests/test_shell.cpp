@@ -142,7 +142,6 @@ private slots:
         };
 
         basPLOVQuzr::Main(state_, libraries_);
-
         QStringList shown, expected;
         for (const ShownBox &box : boxes.shown)
             shown << box.text;
@@ -211,11 +210,9 @@ private slots:
         FakeSoundControl fake(libraries_);
         FakeClock clock;
         startSound(fake, clock);
-
         libraries_.PlayGameSound(101, false);
         QVERIFY(libraries_.hCurrentSound != 0);
         libraries_.PlayGameSound(104, false);
-
         QCOMPARE(fake.calls(), QStringList({QStringLiteral("InitSound"), QStringLiteral("LoadSound 101"),
                                             QStringLiteral("PlaySound 101"), QStringLiteral("UnloadSound 101"),
                                             QStringLiteral("LoadSound 104"), QStringLiteral("PlaySound 104")}));
@@ -228,11 +225,9 @@ private slots:
         FakeClock clock;
         startSound(fake, clock);
         fake.setClipLength(102, 3000);
-
         bool timerRan = false;
         QTimer::singleShot(0, [&] { timerRan = true; });
         libraries_.PlayGameSound(102, true);
-
         QVERIFY(timerRan);
         QCOMPARE(libraries_.hCurrentSound, 0);
         QVERIFY(fake.calls().endsWith(QStringLiteral("UnloadSound 102")));
@@ -254,9 +249,7 @@ private slots:
         fake.setClipLength(105, 30000);
         fake.setClipLength(101, 5000);
         QTimer::singleShot(0, [this] { libraries_.PlayGameSound(101, false); });
-
         libraries_.PlayGameSound(105, true);
-
         QVERIFY(libraries_.hCurrentSound != 0);
         QVERIFY(clock.elapsedMs() < 1000);
         QCOMPARE(fake.calls().last(), QStringLiteral("PlaySound 101"));

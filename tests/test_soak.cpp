@@ -108,7 +108,6 @@ private slots:
         clock.onAdvance = [&](int ms) { sound.advance(ms); };
         libraries_.hPictureLib = PictureLibrary::load(QStringLiteral(QUIZZARR_PROGRAM_DIR "/PLOVQBmp.so"));
         QVERIFY(libraries_.hPictureLib);
-
         auto home = std::make_unique<frmSelect>(state_, libraries_);
         home->show();
         home->cmbScore->setCurrentIndex(1);
